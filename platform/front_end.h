@@ -1,0 +1,222 @@
+// The seam between the dialogs and whatever puts them on a screen.
+//
+// The library keeps the state of a running dialog itself, in a model of plain data. A front end
+// draws that model and reports what the user does to it; all rules of behaviour (what a click
+// changes, which handler runs, when a focus-lost event is due) stay on the library's side, so that
+// every front end behaves alike. This header is the whole contract:
+//
+//   FrontEnd       implemented by the front end: dialogs, message boxes, choosers, waiting
+//   DialogWindow   implemented by the front end: one shown dialog, told what to draw anew
+//   DialogSession  implemented by the library: one running dialog, told what the user did
+//
+// All text is UTF-8. Controls are named by their number; controls that bear the number
+// kNoControlId can't be the object of a gesture. Nothing here throws, and everything runs on the
+// thread that called FrontEnd::RunDialog.
+//
+// The life of a dialog:
+//
+//   1. The library calls FrontEnd::RunDialog(session). A front end that can't show a window
+//      returns false at once and touches nothing.
+//   2. The front end calls session.Start(window) exactly once. The dialog fills its controls. It
+//      may end itself there (Ended() is then true): the front end shows nothing and returns true.
+//   3. The front end draws the dialog from Layout() and Control(i), puts it on the screen and
+//      calls Paint(). It calls Paint() again when the system asks it to draw the dialog anew.
+//   4. Each thing that the user does becomes one call of a gesture. The handlers run inside that
+//      call; they may run further dialogs, message boxes and choosers, so that RunDialog and its
+//      siblings are re-entered from inside a gesture. While an inner window is open the gestures
+//      of the outer session do nothing, and the front end keeps painting it.
+//   5. DialogWindow::Refresh names the controls that changed. It comes before a gesture returns,
+//      and before an inner window opens or a wait begins, never from another thread.
+//   6. When Ended() is true after a gesture, the front end takes the window off the screen and
+//      returns true. No gesture may follow. Closing the window by any means of the desktop is the
+//      gesture Escape(): the window stays until Ended() is true.
+#ifndef ORRERYUI_PLATFORM_FRONT_END_H_
+#define ORRERYUI_PLATFORM_FRONT_END_H_
+
+#include <cstdint>
+#include <functional>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace orreryui {
+
+// The number of a control that has none: fixed texts and frames.
+inline constexpr int kNoControlId = -1;
+
+enum class ControlKind {
+  kPushButton,
+  kSwatch,           // a push button that shows a colour instead of its text
+  kRadioButton,      // a run of radio buttons is one group; see ControlView::starts_group
+  kCheckBox,
+  kPushLikeCheckBox, // a check box that looks like a button which stays down
+  kEdit,             // one line
+  kMultiLineEdit,    // Enter adds a line break; lines are joined by CR LF
+  kStatic,           // plain text; a line feed in it breaks the line
+  kGroupBox,
+  kComboBox,         // drops down, with an edit field
+  kSimpleComboBox,   // an edit field above a list that is always open
+  kListBox,
+  kReportList,       // rows and titled columns
+  kTab,              // items are the captions; pages are the sessions of DialogSession::Page
+};
+
+// Dialog units: a quarter of the average width, and an eighth of the height, of a character of the
+// window's font.
+struct DialogRect {
+  int x = 0;
+  int y = 0;
+  int width = 0;
+  int height = 0;
+};
+
+struct ReportColumn {
+  std::string title;
+  int width = 0;  // in pixels of a screen at scale 1
+};
+
+// What a swatch shows. Colours are 0x00BBGGRR.
+struct SwatchView {
+  std::optional<std::uint32_t> colour;  // nothing: an empty swatch
+  std::optional<std::uint32_t> frame;   // a frame that makes the swatch stand out
+};
+
+// One control as it is to be drawn. The parts that a kind doesn't use stay at their defaults.
+struct ControlView {
+  ControlKind kind = ControlKind::kStatic;
+  int id = kNoControlId;
+  DialogRect place;
+  bool visible = true;
+  bool enabled = true;
+  bool starts_group = false;    // the first radio button of a group
+  bool is_default = false;      // the push button that Enter presses
+  bool right_aligned = false;
+  bool tall_scroll_bar = false; // a multi-line edit that always shows its vertical scroll bar
+  bool checked = false;
+  std::string text;             // label, edit text, or the edit field of a combo box
+  std::vector<ReportColumn> columns;
+  std::vector<std::vector<std::string>> rows;  // list kinds have one string a row
+  int selection = -1;           // selected row or tab, -1 for none
+  SwatchView swatch;
+};
+
+enum class Placement {
+  kAtPosition,  // at x, y in dialog units from the corner of the owner, or of the screen
+  kCentred,     // on the owner, or on the screen
+  kOnPointer,   // centred on the mouse pointer
+  kAtPixel,     // at x, y in pixels of the screen
+};
+
+// The dialog itself. Its size is that of the area inside the window's frame.
+struct DialogLayout {
+  int number = 0;  // the template's number
+  std::string title;
+  Placement placement = Placement::kCentred;
+  int x = 0;
+  int y = 0;
+  int width = 0;   // in dialog units
+  int height = 0;
+  int focus = kNoControlId;  // the control that has the input focus
+};
+
+// What became of text that the user typed: the text that the box is to hold, and the characters
+// that the library's character set lacks and that were therefore left out, in order.
+struct TypedText {
+  std::string text;
+  std::string refused;
+};
+
+// One dialog on the screen.
+class DialogWindow {
+ public:
+  virtual ~DialogWindow() = default;
+
+  // The controls at these indices, as Control(i) counts them, look different now.
+  virtual void Refresh(const std::vector<int>& indices) = 0;
+
+  // Layout() has changed: title, place or focus.
+  virtual void RefreshLayout() = 0;
+};
+
+// One running dialog. A gesture on a control that is hidden, disabled, unknown or of the wrong
+// kind, or on a dialog that isn't the innermost one, does nothing.
+class DialogSession {
+ public:
+  virtual ~DialogSession() = default;
+
+  // `window` must live until RunDialog returns. The library doesn't own it.
+  virtual void Start(DialogWindow& window) = 0;
+  virtual bool Ended() const = 0;
+
+  virtual DialogLayout Layout() const = 0;
+  virtual int ControlCount() const = 0;             // in tab order
+  virtual ControlView Control(int index) const = 0; // 0 to ControlCount() - 1
+
+  // The page that lies over a tab control while tab `tab` is selected, or nothing. The page is a
+  // session of its own, with its own controls, and lives as long as this one. Its focus, Enter and
+  // Escape are those of this session.
+  virtual DialogSession* Page(int tab_control, int tab) = 0;
+
+  // The gestures. Each moves the focus to its control first, as the user's hand does.
+  virtual void Focus(int id) = 0;
+  virtual void Click(int id) = 0;               // push buttons, radio buttons, check boxes
+  virtual TypedText Type(int id, const std::string& text) = 0;  // the box now reads `text`
+  virtual void Pick(int id, int row) = 0;       // a row of a list or combo box, or a tab
+  virtual void DoubleClick(int id, int row, int column) = 0;  // on a row of a list, after Pick
+
+  // Gestures without a control: the keys, and the request of the system to draw anew.
+  virtual void Enter() = 0;
+  virtual void Escape() = 0;
+  virtual void Paint() = 0;
+};
+
+enum class MessageBoxAnswer { kOk, kCancel };
+
+struct FileFilter {
+  std::string label;
+  std::vector<std::string> patterns;  // such as *.txt
+};
+
+struct FileChooserRequest {
+  std::string start_name;         // what the name field holds at the start; may hold wildcards
+  std::string default_extension;  // without the dot; added to a name that has none
+  bool must_exist = false;
+  std::vector<FileFilter> filters;
+};
+
+class FrontEnd {
+ public:
+  virtual ~FrontEnd() = default;
+
+  // Shows the dialog modally until it has ended. False: no window can be shown, and Start wasn't
+  // called.
+  virtual bool RunDialog(DialogSession& session) = 0;
+
+  // A warning with OK and Cancel. Esc and the close box are Cancel.
+  virtual MessageBoxAnswer ShowMessage(const std::string& text) = 0;
+
+  // The full path, in the system's own form, of the file that the user chose; nothing if the user
+  // gave up.
+  virtual std::optional<std::string> ChooseFile(const FileChooserRequest& request) = 0;
+
+  // Colours are 0x00BBGGRR. Nothing if the user gave up.
+  virtual std::optional<std::uint32_t> ChooseColour(std::uint32_t start) = 0;
+
+  virtual void Beep() = 0;
+
+  // Returns once `done` returns true, which it asks at least twenty times a second. Windows that
+  // are open keep painting themselves and take no input meanwhile.
+  virtual void WaitUntil(const std::function<bool()>& done) = 0;
+};
+
+// The only symbol of a front end that is a plug-in: `FrontEnd* orreryui_front_end(int version)`,
+// with C linkage. The plug-in owns the object and keeps it until the process ends. Null if it was
+// built for another version of this header or can't show a window in this process. It may be
+// called again after it returned null.
+inline constexpr int kFrontEndVersion = 1;
+inline constexpr char kFrontEndSymbol[] = "orreryui_front_end";
+using FrontEndFunction = FrontEnd*(int version);
+
+}  // namespace orreryui
+
+#endif  // ORRERYUI_PLATFORM_FRONT_END_H_
