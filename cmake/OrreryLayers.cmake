@@ -5,13 +5,15 @@
 # A layer is a static library that sees its own headers and those of the layers it links, and no
 # others: every layer owns a folder in the build tree that holds links to its headers alone, and
 # that folder, not the source tree, stands on the include path. So a file that reaches sideways or
-# upwards fails to compile. A layer without sources is an interface library.
+# upwards fails to compile. A layer without sources is an interface library. A public header loses the
+# folder include/ from its name, as it does when it is installed.
 function(orrery_layer name)
   cmake_parse_arguments(ARG "" "" "HEADERS;SOURCES;LINKS" ${ARGN})
   set(forest "${CMAKE_BINARY_DIR}/layers/${name}")
   foreach(header IN LISTS ARG_HEADERS)
     cmake_path(ABSOLUTE_PATH header NORMALIZE OUTPUT_VARIABLE absolute)
     cmake_path(RELATIVE_PATH absolute BASE_DIRECTORY "${PROJECT_SOURCE_DIR}" OUTPUT_VARIABLE place)
+    string(REGEX REPLACE "^include/" "" place "${place}")
     get_filename_component(folder "${forest}/${place}" DIRECTORY)
     file(MAKE_DIRECTORY "${folder}")
     file(CREATE_LINK "${absolute}" "${forest}/${place}" SYMBOLIC)
