@@ -144,7 +144,8 @@ class DialogSession {
  public:
   virtual ~DialogSession() = default;
 
-  // `window` must live until RunDialog returns. The library doesn't own it.
+  // `window` must live until RunDialog returns. The library doesn't own it. Pages exist once Start
+  // of their dialog has returned; a page is filled by then, and Start only joins it to its window.
   virtual void Start(DialogWindow& window) = 0;
   virtual bool Ended() const = 0;
 
@@ -162,9 +163,12 @@ class DialogSession {
   virtual void Click(int id) = 0;               // push buttons, radio buttons, check boxes
   virtual TypedText Type(int id, const std::string& text) = 0;  // the box now reads `text`
   virtual void Pick(int id, int row) = 0;       // a row of a list or combo box, or a tab
-  virtual void DoubleClick(int id, int row, int column) = 0;  // on a row of a list, after Pick
+  // Selects the row if it isn't selected yet, then reports the double click. `column` is 0 for a
+  // list without columns.
+  virtual void DoubleClick(int id, int row, int column) = 0;
 
-  // Gestures without a control: the keys, and the request of the system to draw anew.
+  // Gestures without a control: the keys, and the request of the system to draw anew. Enter is for
+  // a place where it types no line break; it presses the focused push button, else the default one.
   virtual void Enter() = 0;
   virtual void Escape() = 0;
   virtual void Paint() = 0;
