@@ -1,0 +1,61 @@
+// The operations of the library: everything that a host calls.
+//
+// Each operation shows one modal dialog in Japanese, returns when the user has closed it, and keeps
+// nothing until the next call but the data files. It must be called from one thread only; in a
+// program that has a QApplication, from the thread of that object.
+//
+// Strings are in code page 932 (Shift-JIS). The operation gets copies and returns a string that the
+// caller owns. Where a result has several fields, a vertical bar stands between them: each number
+// is decimal and ends in a bar, texts stand as they are, and nothing is escaped, so that a bar in a
+// text moves the fields behind it. The empty string means that the user gave up, or that no window
+// could be shown: no display, or no front end beside the library. Data files that the dialog had
+// written before stay written.
+//
+// Folders end in their separator, such as C:\MAP\ or /home/me/map/. Both separators are understood,
+// a drive letter is dropped, and a name that doesn't exist as spelled is looked for without regard
+// to case.
+#ifndef ORRERYUI_ORRERYUI_H_
+#define ORRERYUI_ORRERYUI_H_
+
+#include <orreryui/cstring.h>
+
+#define ORRERYUI_EXPORT __attribute__((visibility("default")))
+
+namespace orreryui {
+extern "C" {
+
+#if defined(__clang__)
+#pragma clang diagnostic push
+#pragma clang diagnostic ignored "-Wreturn-type-c-linkage"  // the names are undecorated, not C
+#endif
+
+// Lets the user choose the data file that the host works with, add a name to the list of data files
+// ("BINDER.DAT" in `folder`), take a name off it, and say whether the common area is shown as well.
+// No data file is created, opened or removed.
+//
+//   selected     index of the entry chosen so far: 0 for the common area, 1 and up for the lines of
+//                the list. A negative index, or one beyond the list, means 0.
+//   common_area  "on" if the common area is shown as well; comes back unchanged if the user leaves
+//                its check box alone, else as "on" or "off"
+//   folder       the folder of the list, with its separator
+//
+// Returns the index of the chosen entry, common_area, and the entry's text.
+ORRERYUI_EXPORT CString OnDataSourceSet(int selected, CString common_area, CString folder);
+
+// Shows the corners of a range that the user drew on the map, and asks what to do with it. The
+// texts are shown as they are, usually degrees with four decimals.
+//
+//   west, north  longitude and latitude of the north-west corner
+//   east, south  longitude and latitude of the south-east corner
+//
+// Returns 1 if the user wants the enlarged map of the range, -1 if the range is dropped.
+ORRERYUI_EXPORT int OnRengeConfirm(CString west, CString north, CString east, CString south);
+
+#if defined(__clang__)
+#pragma clang diagnostic pop
+#endif
+
+}  // extern "C"
+}  // namespace orreryui
+
+#endif  // ORRERYUI_ORRERYUI_H_
