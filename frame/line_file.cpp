@@ -1,0 +1,193 @@
+#include "frame/line_file.h"
+
+#include <algorithm>
+#include <cstring>
+#include <optional>
+#include <utility>
+
+#include "platform/path.h"
+
+namespace orreryui {
+namespace {
+
+constexpr std::size_t kBlockSize = 65536;
+
+// Writes `content` over the whole of an open file.
+bool Overwrite(File& file, std::string_view content) {
+  return file.Seek(0) && file.Write(content) && file.Truncate(content.size()) && file.Sync();
+}
+
+// The old bytes go where they lay before, so that a full disk has room for them.
+bool OverwriteOrRestore(File& file, std::string_view content) {
+  const auto old = ReadAll(file);
+  if (!old) return false;
+  if (Overwrite(file, content)) return true;
+  Overwrite(file, *old);
+  return false;
+}
+
+bool CreateAt(const std::string& path, std::string_view content) {
+  FileSystem& files = CurrentFileSystem();
+  auto file = files.Open(path, OpenMode::kCreate);
+  if (!file) return false;
+  if (file->Write(content) && file->Sync() && files.SyncFolderOf(path)) return true;
+  file.reset();
+  files.Remove(path);
+  return false;
+}
+
+bool RewriteAt(const std::string& path, std::string_view content) {
+  const auto file = CurrentFileSystem().Open(path, OpenMode::kReadWrite);
+  return file && OverwriteOrRestore(*file, content);
+}
+
+// Whether the next line has to begin with the end of the one before; nothing if that can't be read.
+std::optional<bool> LacksLastLineEnd(File& file, std::uint64_t size) {
+  if (size == 0) return false;
+  char last = '\0';
+  if (!file.Seek(size - 1) || file.Read(&last, 1) != 1) return std::nullopt;
+  return last != '\n';
+}
+
+bool AppendTo(File& file, const std::string& line) {
+  const auto size = file.Size();
+  if (!size) return false;
+  const auto lacks_line_end = LacksLastLineEnd(file, *size);
+  if (!lacks_line_end || !file.Seek(*size)) return false;
+  if (file.Write(*lacks_line_end ? "\r\n" + line : line) && file.Sync()) return true;
+  file.Truncate(*size);
+  file.Sync();
+  return false;
+}
+
+}  // namespace
+
+LineReader::LineReader(const char* path, std::size_t limit)
+    : file_(CurrentFileSystem().Open(NativePath(path), OpenMode::kRead)),
+      longest_(limit - 1),
+      // Room for a whole line with its CR LF, wherever it begins.
+      block_(file_ ? std::max(kBlockSize, longest_ + 2) : 0, '\0') {}
+
+std::string_view LineReader::Unread() const {
+  return std::string_view(block_).substr(begin_, end_ - begin_);
+}
+
+// Moves the unread bytes to the front and reads what fits behind them. False if nothing came.
+bool LineReader::Fill() {
+  if (!file_ || at_end_) return false;
+  std::memmove(block_.data(), block_.data() + begin_, end_ - begin_);
+  end_ -= begin_;
+  begin_ = 0;
+  const auto count = file_->Read(block_.data() + end_, block_.size() - end_);
+  failed_ = count < 0;
+  at_end_ = count <= 0;
+  if (!at_end_) end_ += static_cast<std::size_t>(count);
+  return !at_end_;
+}
+
+bool LineReader::ReadLine(std::string_view& line) {
+  const std::size_t window = longest_ + 2;
+  const char* line_feed = nullptr;
+  do {
+    const std::string_view unread = Unread().substr(0, window);
+    line_feed = static_cast<const char*>(std::memchr(unread.data(), '\n', unread.size()));
+  } while (!line_feed && Unread().size() < window && Fill());
+
+  line = Unread();
+  if (line.empty()) return std::exchange(empty_line_due_, false) && !failed_;
+  std::size_t taken = line.size();
+  if (line_feed) {
+    line = line.substr(0, static_cast<std::size_t>(line_feed - line.data()));
+    taken = line.size() + 1;
+    if (!line.empty() && line.back() == '\r') line.remove_suffix(1);
+  }
+  empty_line_due_ = line_feed && line.size() <= longest_;
+  if (line.size() > longest_) {
+    line = line.substr(0, longest_);
+    taken = longest_;
+  }
+  begin_ += taken;
+  line = line.substr(0, line.find('\0'));
+  return true;
+}
+
+bool LineReader::ReadLine(CString& line) {
+  std::string_view view;
+  const bool read = ReadLine(view);
+  line = CString(view.data(), static_cast<int>(view.size()));
+  return read;
+}
+
+std::string LineReader::ReadRest() {
+  std::string rest;
+  do {
+    rest += Unread();
+    begin_ = end_;
+  } while (Fill());
+  empty_line_due_ = false;
+  return rest;
+}
+
+bool CreateFile(const char* path, std::string_view content) {
+  const std::string native = NativePath(path);
+  if (const auto file = CurrentFileSystem().Open(native, OpenMode::kReadWrite)) {
+    return OverwriteOrRestore(*file, content);
+  }
+  return CreateAt(native, content);
+}
+
+bool AppendLine(const char* path, const char* line, IfMissing if_missing) {
+  const std::string native = NativePath(path);
+  const std::string bytes = std::string(line) + "\r\n";
+  if (const auto file = CurrentFileSystem().Open(native, OpenMode::kReadWrite)) {
+    return AppendTo(*file, bytes);
+  }
+  return if_missing == IfMissing::kCreate && CreateAt(native, bytes);
+}
+
+bool RewriteInPlace(const char* path, std::string_view content) {
+  return RewriteAt(NativePath(path), content);
+}
+
+bool ReplaceThroughNewFile(const char* path, const char* new_path, std::string_view content) {
+  FileSystem& files = CurrentFileSystem();
+  const std::string native = NativePath(path);
+  const std::string new_native = NativePath(new_path);
+  const auto old_file = files.Open(native, OpenMode::kReadWrite);
+  const auto old = old_file ? ReadAll(*old_file) : std::nullopt;
+  if (!old) return false;
+  // A second file that was left behind when a process died is nobody's.
+  files.Remove(new_native);
+  if (!CreateAt(new_native, content)) return false;
+  if (!files.Rename(new_native, native)) {
+    files.Remove(new_native);
+    return false;
+  }
+  if (files.SyncFolderOf(native)) return true;
+  RewriteAt(native, *old);
+  return false;
+}
+
+bool FileExists(const char* path) {
+  return CurrentFileSystem().Open(NativePath(path), OpenMode::kRead) != nullptr;
+}
+
+bool RemoveFile(const char* path) {
+  FileSystem& files = CurrentFileSystem();
+  const std::string native = NativePath(path);
+  if (!files.Remove(native)) return false;
+  files.SyncFolderOf(native);
+  return true;
+}
+
+bool RenameFile(const char* from, const char* to) {
+  FileSystem& files = CurrentFileSystem();
+  const std::string old_name = NativePath(from);
+  const std::string new_name = NativePath(to);
+  if (files.Stat(new_name) || !files.Rename(old_name, new_name)) return false;
+  if (files.SyncFolderOf(new_name)) return true;
+  files.Rename(new_name, old_name);
+  return false;
+}
+
+}  // namespace orreryui
