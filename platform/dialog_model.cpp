@@ -133,9 +133,11 @@ ControlView ViewOf(const Control& control) {
   view.right_aligned = (control.flags & kRightAligned) != 0;
   view.tall_scroll_bar = (control.flags & kTallScrollBar) != 0;
   view.checked = control.checked;
-  view.text = ToUtf8(std::string_view(control.text, static_cast<std::size_t>(control.text.GetLength())));
+  view.text =
+      ToUtf8(std::string_view(control.text, static_cast<std::size_t>(control.text.GetLength())));
   for (std::size_t i = 0; i < control.column_titles.size(); ++i) {
-    view.columns.push_back({ToUtf8(control.column_titles[i].operator const char*()), control.column_widths[i]});
+    view.columns.push_back(
+        {ToUtf8(control.column_titles[i].operator const char*()), control.column_widths[i]});
   }
   for (const std::vector<CString>& row : control.rows) {
     std::vector<std::string>& shown = view.rows.emplace_back();

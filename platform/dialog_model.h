@@ -54,7 +54,7 @@ class DialogModel {
   const DialogLayout& Layout() const { return layout_; }
   const CString& Title() const { return title_; }
   void SetTitle(const char* title);
-  void MoveTo(int x, int y);  // in pixels of the screen
+  void MoveTo(int x, int y);                // in pixels of the screen
   void Touch() { layout_changed_ = true; }  // the focus, which the run keeps, has moved
 
   // The indices of the controls that changed since the last call, in ascending order.

@@ -53,8 +53,8 @@ class DialogRun : public DialogSession {
   const DialogRun& Root() const { return sheet_ ? sheet_->Root() : *this; }
   DialogModel& Model() const { return dialog_.model_; }
 
-  int Target(int id) const;      // the index of a control that the user can reach, or -1
-  bool IsShown() const;          // a page is, while its tab is selected
+  int Target(int id) const;  // the index of a control that the user can reach, or -1
+  bool IsShown() const;      // a page is, while its tab is selected
   void Send(int id, Event event);
   void PressDefaultButton();
   void ClickRadioButton(int index);
@@ -71,10 +71,10 @@ class DialogRun : public DialogSession {
   std::vector<DialogRun*> pages_;
 
   // Of a root only.
-  DialogRun* outer_ = nullptr;       // the run that this one covers
-  DialogRun* focus_run_ = nullptr;   // the dialog or page whose control has the focus
-  int focus_ = -1;                   // that control's index
-  bool busy_ = false;                // a gesture is being carried out
+  DialogRun* outer_ = nullptr;      // the run that this one covers
+  DialogRun* focus_run_ = nullptr;  // the dialog or page whose control has the focus
+  int focus_ = -1;                  // that control's index
+  bool busy_ = false;               // a gesture is being carried out
   bool ended_ = false;
   int result_ = -1;
 };

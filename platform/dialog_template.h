@@ -16,10 +16,10 @@ inline constexpr int IDCANCEL = 2;
 // Properties of a control, joined with |.
 enum ControlFlags : unsigned {
   kPlain = 0,
-  kDefaultButton = 1,      // Enter presses it
-  kGroupStart = 2,         // the first radio button of a group
+  kDefaultButton = 1,  // Enter presses it
+  kGroupStart = 2,     // the first radio button of a group
   kRightAligned = 4,
-  kTallScrollBar = 8,      // a multi-line edit that always shows its vertical scroll bar
+  kTallScrollBar = 8,  // a multi-line edit that always shows its vertical scroll bar
   kHidden = 16,
   kDisabled = 32,
 };

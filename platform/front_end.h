@@ -46,19 +46,19 @@ inline constexpr int kNoControlId = -1;
 
 enum class ControlKind {
   kPushButton,
-  kSwatch,           // a push button that shows a colour instead of its text
-  kRadioButton,      // a run of radio buttons is one group; see ControlView::starts_group
+  kSwatch,       // a push button that shows a colour instead of its text
+  kRadioButton,  // a run of radio buttons is one group; see ControlView::starts_group
   kCheckBox,
-  kPushLikeCheckBox, // a check box that looks like a button which stays down
-  kEdit,             // one line
-  kMultiLineEdit,    // Enter adds a line break; lines are joined by CR LF
-  kStatic,           // plain text; a line feed in it breaks the line
+  kPushLikeCheckBox,  // a check box that looks like a button which stays down
+  kEdit,              // one line
+  kMultiLineEdit,     // Enter adds a line break; lines are joined by CR LF
+  kStatic,            // plain text; a line feed in it breaks the line
   kGroupBox,
-  kComboBox,         // drops down, with an edit field
-  kSimpleComboBox,   // an edit field above a list that is always open
+  kComboBox,        // drops down, with an edit field
+  kSimpleComboBox,  // an edit field above a list that is always open
   kListBox,
-  kReportList,       // rows and titled columns
-  kTab,              // items are the captions; pages are the sessions of DialogSession::Page
+  kReportList,  // rows and titled columns
+  kTab,         // items are the captions; pages are the sessions of DialogSession::Page
 };
 
 // Dialog units: a quarter of the average width, and an eighth of the height, of a character of the
@@ -88,15 +88,15 @@ struct ControlView {
   DialogRect place;
   bool visible = true;
   bool enabled = true;
-  bool starts_group = false;    // the first radio button of a group
-  bool is_default = false;      // the push button that Enter presses
+  bool starts_group = false;  // the first radio button of a group
+  bool is_default = false;    // the push button that Enter presses
   bool right_aligned = false;
-  bool tall_scroll_bar = false; // a multi-line edit that always shows its vertical scroll bar
+  bool tall_scroll_bar = false;  // a multi-line edit that always shows its vertical scroll bar
   bool checked = false;
-  std::string text;             // label, edit text, or the edit field of a combo box
+  std::string text;  // label, edit text, or the edit field of a combo box
   std::vector<ReportColumn> columns;
   std::vector<std::vector<std::string>> rows;  // list kinds have one string a row
-  int selection = -1;           // selected row or tab, -1 for none
+  int selection = -1;                          // selected row or tab, -1 for none
   SwatchView swatch;
 };
 
@@ -114,7 +114,7 @@ struct DialogLayout {
   Placement placement = Placement::kCentred;
   int x = 0;
   int y = 0;
-  int width = 0;   // in dialog units
+  int width = 0;  // in dialog units
   int height = 0;
   int focus = kNoControlId;  // the control that has the input focus
 };
@@ -150,8 +150,8 @@ class DialogSession {
   virtual bool Ended() const = 0;
 
   virtual DialogLayout Layout() const = 0;
-  virtual int ControlCount() const = 0;             // in tab order
-  virtual ControlView Control(int index) const = 0; // 0 to ControlCount() - 1
+  virtual int ControlCount() const = 0;              // in tab order
+  virtual ControlView Control(int index) const = 0;  // 0 to ControlCount() - 1
 
   // The page that lies over a tab control while tab `tab` is selected, or nothing. The page is a
   // session of its own, with its own controls, and lives as long as this one. Its focus, Enter and
@@ -160,9 +160,9 @@ class DialogSession {
 
   // The gestures. Each moves the focus to its control first, as the user's hand does.
   virtual void Focus(int id) = 0;
-  virtual void Click(int id) = 0;               // push buttons, radio buttons, check boxes
+  virtual void Click(int id) = 0;  // push buttons, radio buttons, check boxes
   virtual TypedText Type(int id, const std::string& text) = 0;  // the box now reads `text`
-  virtual void Pick(int id, int row) = 0;       // a row of a list or combo box, or a tab
+  virtual void Pick(int id, int row) = 0;  // a row of a list or combo box, or a tab
   // Selects the row if it isn't selected yet, then reports the double click. `column` is 0 for a
   // list without columns.
   virtual void DoubleClick(int id, int row, int column) = 0;

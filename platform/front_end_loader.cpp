@@ -21,7 +21,8 @@ std::string FolderOf(const std::string& file) {
 // The file that this code was loaded from, as the loader spelled it.
 std::string OwnFile() {
   Dl_info info{};
-  if (dladdr(reinterpret_cast<const void*>(&LoadFrontEnd), &info) == 0 || !info.dli_fname) return "";
+  if (dladdr(reinterpret_cast<const void*>(&LoadFrontEnd), &info) == 0 || !info.dli_fname)
+    return "";
   return info.dli_fname;
 }
 

@@ -1,0 +1,246 @@
+#include "platform/code_page_932.h"
+
+#include <algorithm>
+#include <array>
+#include <cstdint>
+#include <cstring>
+#include <vector>
+
+#include <orreryui/cstring.h>
+
+#include "platform/code_page_932_code.h"
+#include "platform/utf8.h"
+
+namespace orreryui {
+namespace {
+
+using Code = std::uint16_t;
+
+// Both directions by index. A code is a single byte, or lead byte * 256 + trail byte.
+struct Tables {
+  std::array<char16_t, 0x10000> characters;  // kReplacementCharacter for what is unassigned
+  std::array<Code, 0x10000> codes{};         // 0 for a character without code
+
+  Tables() {
+    characters.fill(static_cast<char16_t>(kReplacementCharacter));
+    for (char32_t character = 0; character < 0x10000; ++character) {
+      const int code = ComputedCode(character);
+      if (code != kNoCode) Join(static_cast<Code>(code), static_cast<char16_t>(character));
+    }
+    for (std::size_t i = 0; i < kCodePage932.size(); i += 2) {
+      Join(static_cast<Code>(kCodePage932[i + 1]), kCodePage932[i]);
+    }
+    for (std::size_t i = 0; i < kCodePage932DecodeOnly.size(); i += 2) {
+      characters[kCodePage932DecodeOnly[i + 1]] = kCodePage932DecodeOnly[i];
+    }
+  }
+
+  void Join(Code code, char16_t character) {
+    characters[code] = character;
+    codes[character] = code;
+  }
+};
+
+const Tables& GetTables() {
+  static const Tables tables;
+  return tables;
+}
+
+// The length of the ASCII text that `text` begins with.
+std::size_t AsciiLength(std::string_view text) {
+  constexpr std::uint64_t kHighBits = 0x8080808080808080;
+  std::size_t length = 0;
+  for (std::uint64_t block; length + sizeof block <= text.size(); length += sizeof block) {
+    std::memcpy(&block, text.data() + length, sizeof block);
+    if (block & kHighBits) break;
+  }
+  while (length < text.size() && static_cast<unsigned char>(text[length]) < 0x80) ++length;
+  return length;
+}
+
+// Takes the first character off `bytes`, which must not be empty.
+char16_t TakeCharacter(const Tables& tables, std::string_view& bytes) {
+  const char next = bytes.size() > 1 ? bytes[1] : '\0';
+  const auto first = static_cast<unsigned char>(bytes[0]);
+  if (CharacterLength(bytes[0], next) == 1) {
+    bytes.remove_prefix(1);
+    return tables.characters[first];
+  }
+  bytes.remove_prefix(2);
+  return tables.characters[static_cast<std::size_t>(first << 8 | static_cast<unsigned char>(next))];
+}
+
+// The character of this code page that is meant by one that it lacks.
+char32_t Neighbour(char32_t character) {
+  switch (character) {
+    case 0x301C:
+      return 0xFF5E;  // wave dash
+    case 0x2212:
+      return 0xFF0D;  // minus
+    case 0x2016:
+      return 0x2225;  // double vertical line
+    case 0x00A2:
+      return 0xFFE0;  // cent
+    case 0x00A3:
+      return 0xFFE1;  // pound
+    case 0x00AC:
+      return 0xFFE2;  // not
+    case 0x2014:
+      return 0x2015;  // dash
+    default:
+      return character;
+  }
+}
+
+void AppendCharacter(const Tables& tables, Encoded& to, char32_t character) {
+  if (character < 0x80) {
+    to.bytes += static_cast<char>(character);
+    return;
+  }
+  const char32_t meant = Neighbour(character);
+  const Code code = meant < 0x10000 ? tables.codes[meant] : Code{0};
+  if (code == 0) {
+    AppendUtf8(to.refused, character);
+    return;
+  }
+  if (code > 0xFF) to.bytes += static_cast<char>(code >> 8);
+  to.bytes += static_cast<char>(code & 0xFF);
+}
+
+constexpr char32_t kVoiced = 0x3099;
+constexpr char32_t kSemiVoiced = 0x309A;
+
+// The kana that `base` and a combining mark make, or 0. In Unicode a voiced kana follows its base
+// and a semi-voiced one comes after that, and katakana stand 60 hexadecimal above hiragana.
+char32_t ComposeKana(char32_t base, char32_t mark) {
+  constexpr std::u32string_view kTakeBoth = U"はひふへほ";
+  constexpr std::u32string_view kTakeVoiced = U"かきくけこさしすせそたちつてとゝ";
+  const bool katakana = base >= 0x30A0;
+  const char32_t hiragana = katakana ? base - 0x60 : base;
+  if (kTakeBoth.find(hiragana) != kTakeBoth.npos) return base + (mark == kVoiced ? 1 : 2);
+  if (mark != kVoiced) return 0;
+  if (kTakeVoiced.find(hiragana) != kTakeVoiced.npos) return base + 1;
+  if (hiragana == U'う') return base + (U'ゔ' - U'う');
+  if (base >= U'ワ' && base <= U'ヲ') return base + (U'ヷ' - U'ワ');
+  return 0;
+}
+
+// The characters of `text`, kana joined with the marks that follow them.
+std::u32string ReadComposed(std::string_view text) {
+  std::u32string characters;
+  while (!text.empty()) {
+    const char32_t character = TakeUtf8(text);
+    const bool mark = character == kVoiced || character == kSemiVoiced;
+    const char32_t composed =
+        mark && !characters.empty() ? ComposeKana(characters.back(), character) : 0;
+    if (composed) {
+      characters.back() = composed;
+    } else {
+      characters += character;
+    }
+  }
+  return characters;
+}
+
+bool HasCombiningMark(std::string_view text) {
+  for (const std::string_view mark : {"\u3099", "\u309A"}) {
+    // The last byte is the rare one.
+    for (auto i = text.find(mark[2]); i != text.npos; i = text.find(mark[2], i + 1)) {
+      if (i >= 2 && text.substr(i - 2, 3) == mark) return true;
+    }
+  }
+  return false;
+}
+
+void AppendCharacters(Encoded& to, std::u32string_view characters) {
+  const Tables& tables = GetTables();
+  for (const char32_t character : characters) AppendCharacter(tables, to, character);
+}
+
+struct Decoded {
+  std::u32string characters;
+  std::vector<std::size_t> starts;  // of each character in the bytes, and the end of the last one
+};
+
+Decoded ReadCodePage(std::string_view bytes) {
+  const Tables& tables = GetTables();
+  Decoded decoded;
+  std::string_view rest = bytes;
+  while (!rest.empty()) {
+    decoded.starts.push_back(bytes.size() - rest.size());
+    decoded.characters += TakeCharacter(tables, rest);
+  }
+  decoded.starts.push_back(bytes.size());
+  return decoded;
+}
+
+}  // namespace
+
+std::string ToUtf8(std::string_view bytes) {
+  std::size_t ascii = AsciiLength(bytes);
+  if (ascii == bytes.size()) return std::string(bytes);
+  const Tables& tables = GetTables();
+  std::string text(bytes.size() * 3, '\0');
+  char* to = text.data();
+  while (!bytes.empty()) {
+    std::memcpy(to, bytes.data(), ascii);
+    to += ascii;
+    bytes.remove_prefix(ascii);
+    while (!bytes.empty() && static_cast<unsigned char>(bytes[0]) >= 0x80) {
+      to = PutUtf8(to, TakeCharacter(tables, bytes));
+    }
+    ascii = AsciiLength(bytes);
+  }
+  text.resize(static_cast<std::size_t>(to - text.data()));
+  return text;
+}
+
+Encoded FromUtf8(std::string_view text) {
+  Encoded result;
+  if (HasCombiningMark(text)) {
+    AppendCharacters(result, ReadComposed(text));
+    return result;
+  }
+  const Tables& tables = GetTables();
+  result.bytes.reserve(text.size());
+  while (!text.empty()) {
+    const std::size_t ascii = AsciiLength(text);
+    result.bytes += text.substr(0, ascii);
+    text.remove_prefix(ascii);
+    while (!text.empty() && static_cast<unsigned char>(text[0]) >= 0x80) {
+      AppendCharacter(tables, result, TakeUtf8(text));
+    }
+  }
+  return result;
+}
+
+Encoded MergeEdit(std::string_view old_bytes, std::string_view new_text) {
+  const Decoded old = ReadCodePage(old_bytes);
+  const std::u32string text = ReadComposed(new_text);
+  const std::size_t old_size = old.characters.size();
+  const std::size_t shorter = std::min(old_size, text.size());
+  std::size_t head = 0;
+  while (head < shorter && old.characters[head] == text[head]) ++head;
+  std::size_t tail = 0;
+  while (tail < shorter - head &&
+         old.characters[old_size - 1 - tail] == text[text.size() - 1 - tail]) {
+    ++tail;
+  }
+
+  const std::size_t head_end = old.starts[head];
+  Encoded result{std::string(old_bytes.substr(0, head_end)), ""};
+  Encoded rest;
+  AppendCharacters(rest, std::u32string_view(text).substr(head, text.size() - head - tail));
+  rest.bytes += old_bytes.substr(old.starts[old_size - tail]);
+  const bool ends_in_lone_lead =
+      head > 0 && head_end - old.starts[head - 1] == 1 && IsLeadByte(result.bytes.back());
+  if (ends_in_lone_lead && !rest.bytes.empty() && IsTrailByte(rest.bytes[0])) {
+    result.bytes.pop_back();
+    AppendUtf8(result.refused, kReplacementCharacter);
+  }
+  result.bytes += rest.bytes;
+  result.refused += rest.refused;
+  return result;
+}
+
+}  // namespace orreryui

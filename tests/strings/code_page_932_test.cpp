@@ -1,0 +1,255 @@
+#include "platform/code_page_932.h"
+
+#include <map>
+#include <string>
+#include <thread>
+#include <vector>
+
+#include <gtest/gtest.h>
+#include <orreryui/cstring.h>
+
+#include "platform/code_page_932_code.h"
+#include "platform/utf8.h"
+
+namespace orreryui {
+namespace {
+
+constexpr char kReplacement[] = "\uFFFD";
+constexpr std::u32string_view kNeighbours = U"\u301C\u2212\u2016\u00A2\u00A3\u00AC\u2014";
+
+std::string Bytes(int code) {
+  std::string bytes;
+  if (code > 0xFF) bytes += static_cast<char>(code >> 8);
+  return bytes + static_cast<char>(code & 0xFF);
+}
+
+std::vector<int> DoubleByteCodes() {
+  std::vector<int> codes;
+  for (int code = 0x8100; code < 0xFD00; ++code) {
+    if (CharacterLength(static_cast<char>(code >> 8), static_cast<char>(code & 0xFF)) == 2) {
+      codes.push_back(code);
+    }
+  }
+  return codes;
+}
+
+std::string RoundTrip(const std::string& bytes) { return FromUtf8(ToUtf8(bytes)).bytes; }
+
+TEST(CodePage932, DecodesAndEncodesWellKnownCharacters) {
+  const std::map<int, std::string> samples = {
+      {0x8140, "　"},     {0x8141, "、"},     {0x815C, "―"},      {0x815F, "＼"},
+      {0x8160, "\uFF5E"}, {0x8161, "∥"},      {0x817C, "－"},     {0x8191, "￠"},
+      {0x8192, "￡"},     {0x81CA, "￢"},     {0x829F, "ぁ"},     {0x82F1, "ん"},
+      {0x8340, "ァ"},     {0x8396, "ヶ"},     {0x8440, "А"},      {0x84BE, "╂"},
+      {0x8740, "①"},      {0x878A, "㈱"},     {0x889F, "亜"},     {0x9872, "腕"},
+      {0x989F, "弌"},     {0xEAA4, "熙"},     {0xFA40, "ⅰ"},      {0xFA5C, "纊"},
+      {0xFC4B, "黑"},     {0xFA9C, "\uFA10"}, {0xF040, "\uE000"}, {0xF07E, "\uE03E"},
+      {0xF080, "\uE03F"}, {0xF9FC, "\uE757"}, {0x5C, "\\"},       {0x7E, "~"},
+      {0x80, "\u0080"},   {0xA0, "\u00A0"},   {0xA1, "｡"},        {0xDF, "ﾟ"},
+      {0xFD, "\uF8F1"},   {0xFE, "\uF8F2"},   {0xFF, "\uF8F3"},
+  };
+  for (const auto& [code, text] : samples) {
+    EXPECT_EQ(ToUtf8(Bytes(code)), text);
+    const Encoded encoded = FromUtf8(text);
+    EXPECT_EQ(encoded.bytes, Bytes(code)) << text;
+    EXPECT_EQ(encoded.refused, "") << text;
+  }
+}
+
+// The counts are those of the published table, and the digest was reckoned from the converter of
+// another system.
+TEST(CodePage932, TheWholeTableComesBackButForThePublishedDoubles) {
+  int assigned = 0;
+  int user_defined = 0;
+  std::map<int, int> changed;  // by lead byte
+  std::uint64_t digest = 0;
+  for (const int code : DoubleByteCodes()) {
+    const std::string bytes = Bytes(code);
+    const std::string text = ToUtf8(bytes);
+    if (text == kReplacement) continue;
+    ++(code >= 0xF000 && code < 0xFA00 ? user_defined : assigned);
+    std::string_view rest = text;
+    digest = digest * 31 + TakeUtf8(rest);
+    EXPECT_TRUE(rest.empty());
+    const std::string back = RoundTrip(bytes);
+    if (back == bytes) continue;
+    ++changed[code >> 8];
+    EXPECT_EQ(ToUtf8(back), text);
+  }
+  EXPECT_EQ(assigned, 7724);
+  EXPECT_EQ(user_defined, 1880);
+  // Nine mathematical signs of NEC's row 13, all of NEC's selection, fifteen of IBM's extension.
+  EXPECT_EQ(changed, (std::map<int, int>{{0x87, 9}, {0xED, 188}, {0xEE, 186}, {0xFA, 15}}));
+  EXPECT_EQ(digest, 18096745514608605520u);
+}
+
+TEST(CodePage932, TheWayBackPrefersJisThenNecRow13ThenIbm) {
+  const std::map<int, int> samples = {
+      {0x8790, 0x81E0}, {0x8795, 0x81E3}, {0x879C, 0x81BE}, {0xEEF9, 0x81CA}, {0xFA54, 0x81CA},
+      {0xFA5B, 0x81E6}, {0xFA4A, 0x8754}, {0xFA58, 0x878A}, {0xED40, 0xFA5C}, {0xEEEC, 0xFC4B},
+      {0xEEEF, 0xFA40}, {0xEEFA, 0xFA55}, {0xEEFC, 0xFA57},
+  };
+  for (const auto& [code, back] : samples) EXPECT_EQ(RoundTrip(Bytes(code)), Bytes(back)) << code;
+}
+
+TEST(CodePage932, SingleBytesComeBackUnlessTheyBeginAPair) {
+  for (int byte = 0; byte < 0x100; ++byte) {
+    const std::string bytes(1, static_cast<char>(byte));
+    if (IsLeadByte(bytes[0])) {
+      EXPECT_EQ(ToUtf8(bytes), kReplacement);
+    } else {
+      EXPECT_EQ(RoundTrip(bytes), bytes) << byte;
+    }
+  }
+}
+
+TEST(CodePage932, TheTableAndTheTablesBuiltFromItAgree) {
+  for (char32_t character = 1; character < 0x10000; ++character) {
+    const bool surrogate = character >= 0xD800 && character < 0xE000;
+    if (surrogate || kNeighbours.find(character) != std::u32string_view::npos) continue;
+    const int code = CodeOf(character);
+    std::string text;
+    AppendUtf8(text, character);
+    ASSERT_EQ(FromUtf8(text).refused.empty(), code != kNoCode) << text;
+    if (code == kNoCode) continue;
+    ASSERT_EQ(ToUtf8(Bytes(code)), text);
+    ASSERT_EQ(FromUtf8(text).bytes, Bytes(code)) << text;
+  }
+  EXPECT_EQ(CodeOf(0x10000 + U'亜'), kNoCode);
+}
+
+TEST(CodePage932, DecodesBrokenTextByTheLeadByteRule) {
+  EXPECT_EQ(ToUtf8("a\x81\xAD"
+                   "b"),
+            "a\uFFFDb");  // an unassigned pair
+  EXPECT_EQ(ToUtf8("\x83 A"), "\uFFFD A");
+  EXPECT_EQ(ToUtf8("\x83\n"), "\uFFFD\n");
+  EXPECT_EQ(ToUtf8("\x83\x83"), "ャ");
+  EXPECT_EQ(ToUtf8("\x83\x83\x83"), "ャ\uFFFD");
+  EXPECT_EQ(ToUtf8("\x81\x7F"), "\uFFFD\x7F");
+  EXPECT_EQ(ToUtf8(std::string("\x83\0x", 3)), std::string("\uFFFD\0x", 5));
+  EXPECT_EQ(ToUtf8(""), "");
+}
+
+TEST(CodePage932, ConvertsLongMixedText) {
+  std::string bytes;
+  std::string text;
+  for (int i = 0; i < 40; ++i) {
+    bytes += std::string(static_cast<std::size_t>(i), 'x') + "\x8A\x99\xB1\x91\x71";
+    text += std::string(static_cast<std::size_t>(i), 'x') + "鎌ｱ倉";
+  }
+  EXPECT_EQ(ToUtf8(bytes), text);
+  EXPECT_EQ(FromUtf8(text).bytes, bytes);
+}
+
+TEST(CodePage932, IsForgivingToTypedText) {
+  EXPECT_EQ(FromUtf8("\u301C\u2212\u2016\u00A2\u00A3\u00AC\u2014").bytes,
+            "\x81\x60\x81\x7C\x81\x61\x81\x91\x81\x92\x81\xCA\x81\x5C");
+  EXPECT_EQ(FromUtf8("か\u3099は\u3099は\u309Aハ\u309Aウ\u3099ゝ\u3099ヽ\u3099").bytes,
+            FromUtf8("がばぱパヴゞヾ").bytes);
+  EXPECT_EQ(FromUtf8("ｶ\uFF9E").bytes, "\xB6\xDE");
+}
+
+TEST(CodePage932, RefusesWhatItLacksAndNeverWritesAQuestionMark) {
+  const Encoded mixed = FromUtf8("a\u00A5鎌😀é倉");
+  EXPECT_EQ(mixed.bytes, "a\x8A\x99\x91\x71");
+  EXPECT_EQ(mixed.refused, "\u00A5😀é");
+  // Marks that join nothing, and kana that the code page lacks when joined.
+  const Encoded marks = FromUtf8("\u3099あ\u3099か\u309Aワ\u3099う\u3099");
+  EXPECT_EQ(marks.bytes, "\x82\xA0\x82\xA9");
+  EXPECT_EQ(marks.refused, "\u3099\u3099\u309Aヷゔ");
+}
+
+TEST(CodePage932, RefusesMalformedUtf8) {
+  for (const char* bad : {"\x80", "\xC3", "\xC0\xAF", "\xE0\x80\xAF", "\xED\xA0\x80", "\xF8",
+                          "\xF4\x90\x80\x80", "\xE3\x81", "\xF0\x9F\x98"}) {
+    const Encoded encoded = FromUtf8(std::string("a") + bad + "b");
+    EXPECT_EQ(encoded.bytes, "ab");
+    std::string expected;
+    for (const char* byte = bad; *byte; ++byte) expected += kReplacement;
+    EXPECT_EQ(encoded.refused, expected);
+  }
+}
+
+TEST(CodePage932, IsBuiltOnceByWhoeverComesFirst) {
+  std::vector<std::thread> threads;
+  std::vector<std::string> results(4);
+  for (std::string& result : results) {
+    threads.emplace_back([&result] { result = ToUtf8("\x94\x7A\x90\x46"); });
+  }
+  for (std::thread& thread : threads) thread.join();
+  for (const std::string& result : results) EXPECT_EQ(result, "配色");
+}
+
+struct Edit {
+  const char* old_bytes;
+  const char* new_text;
+  const char* bytes;
+  const char* refused;
+};
+
+TEST(MergeEdit, KeepsTheBytesThatTheUserDidNotTouch) {
+  // ED40 is a code that is only read (it comes back as FA5C), 81AD is unassigned.
+  const Edit edits[] = {
+      {"", "", "", ""},
+      {"", "配", "\x94\x7A", ""},
+      {"abc", "", "", ""},
+      {"\xED\x40", "纊", "\xED\x40", ""},
+      {"\xED\x40", "纊a",
+       "\xED\x40"
+       "a",
+       ""},
+      {"\xED\x40", "a纊", "a\xED\x40", ""},
+      {"\xED\x40", "纊纊", "\xED\x40\xFA\x5C", ""},
+      {"\xED\x40"
+       "b\xED\x40",
+       "纊配纊", "\xED\x40\x94\x7A\xED\x40", ""},
+      {"\x81\xAD"
+       "ab",
+       "\uFFFDb",
+       "\x81\xAD"
+       "b",
+       ""},
+      {"ab\x81\xAD", "axb\uFFFD", "axb\x81\xAD", ""},
+      {"aa", "aaa", "aaa", ""},
+      {"aaa", "aa", "aa", ""},
+      {"abc", "a😀c", "ac", "😀"},
+      {"\x82\xA9x", "か\u3099x", "\x82\xAAx", ""},
+  };
+  for (const Edit& edit : edits) {
+    const Encoded merged = MergeEdit(edit.old_bytes, edit.new_text);
+    EXPECT_EQ(merged.bytes, edit.bytes) << edit.new_text;
+    EXPECT_EQ(merged.refused, edit.refused) << edit.new_text;
+  }
+}
+
+TEST(MergeEdit, ALeadByteAloneNeverSwallowsWhatFollows) {
+  const Edit edits[] = {
+      {"\x83 A", "\uFFFDA", "A", "\uFFFD"},        // the blank between them is deleted
+      {"\x83", "\uFFFDA", "A", "\uFFFD"},          // a letter is typed behind it
+      {"\x83", "\uFFFD亜", "\x88\x9F", "\uFFFD"},  // a lead byte can be a trail byte as well
+      {"\x83", "\uFFFD1",
+       "\x83"
+       "1",
+       ""},  // a digit can't
+      {"\x83\x41 B", "アB",
+       "\x83\x41"
+       "B",
+       ""},  // not alone
+  };
+  for (const Edit& edit : edits) {
+    const Encoded merged = MergeEdit(edit.old_bytes, edit.new_text);
+    EXPECT_EQ(merged.bytes, edit.bytes) << edit.new_text;
+    EXPECT_EQ(merged.refused, edit.refused) << edit.new_text;
+  }
+}
+
+TEST(MergeEdit, AnUneditedBoxKeepsEveryByte) {
+  for (const int code : DoubleByteCodes()) {
+    const std::string bytes = "a" + Bytes(code) + "b";
+    ASSERT_EQ(MergeEdit(bytes, ToUtf8(bytes)).bytes, bytes);
+  }
+}
+
+}  // namespace
+}  // namespace orreryui
