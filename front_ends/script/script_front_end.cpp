@@ -48,13 +48,15 @@ ScriptFrontEnd& ScriptFrontEnd::AddWindow(Step step) {
 }
 
 ScriptFrontEnd& ScriptFrontEnd::AddAction(const std::string& description, Action action) {
-  steps_.push_back({.description = description, .window = {}, .action = std::move(action),
-                    .path = {}, .colour = {}});
+  steps_.push_back({.description = description,
+                    .window = {},
+                    .action = std::move(action),
+                    .path = {},
+                    .colour = {}});
   return *this;
 }
 
-ScriptFrontEnd& ScriptFrontEnd::AddGesture(const std::string& description, int id,
-                                           Action gesture) {
+ScriptFrontEnd& ScriptFrontEnd::AddGesture(const std::string& description, int id, Action gesture) {
   auto action = [id, gesture = std::move(gesture)](DialogSession& session) -> std::string {
     const std::optional<ControlView> view = FindControl(session, id);
     if (!view) return "no such control";
@@ -148,15 +150,14 @@ ScriptFrontEnd& ScriptFrontEnd::OnPage(int tab_control, int tab) {
 }
 
 ScriptFrontEnd& ScriptFrontEnd::OnSheet() {
-  steps_.push_back({.description = "go to the sheet", .window = {}, .action = {}, .path = {},
-                    .colour = {}});
+  steps_.push_back(
+      {.description = "go to the sheet", .window = {}, .action = {}, .path = {}, .colour = {}});
   return *this;
 }
 
 ScriptFrontEnd& ScriptFrontEnd::ShowsTitle(const std::string& title) {
-  return AddAction("title", [title](DialogSession& session) {
-    return Differs(session.Layout().title, title);
-  });
+  return AddAction(
+      "title", [title](DialogSession& session) { return Differs(session.Layout().title, title); });
 }
 
 ScriptFrontEnd& ScriptFrontEnd::Shows(int id, const std::string& text) {
