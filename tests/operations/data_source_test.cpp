@@ -1,0 +1,161 @@
+#include <gtest/gtest.h>
+#include <orreryui/orreryui.h>
+
+#include "front_ends/script/script_front_end.h"
+#include "platform/code_page_932.h"
+#include "platform/front_end_loader.h"
+#include "platform/japanese_literal.h"
+#include "tests/operations/test_folder.h"
+
+namespace orreryui {
+namespace {
+
+constexpr char kList[] = "BINDER.DAT";
+constexpr char kCommonArea[] = "HD(共通領域)";
+constexpr char kCommonNote[] = "HD(共通領域)のﾃﾞｰﾀﾌｧｲﾙが地図に表示されます。";
+constexpr char kBothNote[] = "HD(共通領域)と指定の２つのﾃﾞｰﾀﾌｧｲﾙが地図に表示されます。";
+constexpr char kChosenNote[] = "指定のﾃﾞｰﾀﾌｧｲﾙが地図に表示されます。";
+
+std::string Lines(int first, int last) {
+  std::string lines;
+  for (int i = first; i <= last; ++i) lines += "name" + std::to_string(i) + "\r\n";
+  return lines;
+}
+
+class DataSourceTest : public testing::Test {
+ protected:
+  DataSourceTest() { script.OpensDialog(134); }
+
+  // The result in UTF-8.
+  std::string Call(int selected, const char* common_area) {
+    ScopedFrontEnd scope(&script);
+    const CString result = OnDataSourceSet(selected, common_area, folder.Argument());
+    EXPECT_EQ(script.Failures(), "");
+    return ToUtf8(result);
+  }
+
+  TestFolder folder;
+  ScriptFrontEnd script;
+};
+
+TEST_F(DataSourceTest, WithoutAListTheCommonAreaStandsAlone) {
+  script.ShowsTitle("         データファイルの登録と選択").ShowsRows(135, {kCommonArea});
+  script.Shows(1048, "  1/  1").Shows(135, kCommonArea).Shows(1021, kCommonNote);
+  script.ShowsCheck(1020, true).Click(109).Click(1);
+  EXPECT_EQ(Call(-1, "on"), "0|on|HD(共通領域)");
+  EXPECT_EQ(folder.Read(kList), std::nullopt);
+}
+
+TEST_F(DataSourceTest, SkipsCommentsAndShowsTheChosenEntry) {
+  folder.Write(kList, std::string(";注\r\n東|京\n\r\n表;\r\n最後"_sj));
+  script.ShowsRows(135, {kCommonArea, "東|京", "表;", "最後"}).Shows(1048, "  3/  4");
+  script.Shows(135, "表;").ShowsCheck(1020, false).Shows(1021, kChosenNote);
+  script.Type(135, "なんでも").Click(1);
+  EXPECT_EQ(Call(2, "?"), "2|?|表;");
+}
+
+TEST_F(DataSourceTest, ANumberBeyondTheListIsTheCommonArea) {
+  folder.Write(kList, Lines(1, 2));
+  script.Shows(1048, "  1/  3").Click(1);
+  EXPECT_EQ(Call(3, "off"), "0|off|HD(共通領域)");
+}
+
+TEST_F(DataSourceTest, TheNoteFollowsTheCheckBoxAndNotTheSelection) {
+  folder.Write(kList, Lines(1, 3));
+  script.Shows(1021, kChosenNote).Click(1020).Shows(1021, kBothNote).Pick(135, 0);
+  script.Shows(1021, kBothNote).Shows(1048, "  1/  4").Click(1020).Shows(1021, kCommonNote);
+  script.Click(1020).Pick(135, 3).Shows(1048, "  4/  4").Click(1);
+  EXPECT_EQ(Call(1, "off"), "3|on|name3");
+}
+
+TEST_F(DataSourceTest, ARegistrationChoosesTheNewNameAndStaysAfterCancel) {
+  folder.Write(kList, Lines(1, 1));
+  script.Click(103).Type(101, "鎌倉|%n ").Click(103).Shows(101, "登録されました！");
+  script.Shows(135, "鎌倉|%n ").ShowsRows(135, {kCommonArea, "name1", "鎌倉|%n "});
+  script.Shows(1048, "  1/  2").Shows(1021, kCommonNote).Click(103);
+  script.Type(101, "登録の本").Click(103).Shows(101, "登録の本");
+  script.Type(101, "ー表").Click(103).Escape();
+  EXPECT_EQ(Call(0, "off"), "");
+  EXPECT_EQ(folder.Read(kList), std::string("name1\r\n鎌倉|%n \r\nー表\r\n"_sj));
+}
+
+TEST_F(DataSourceTest, OkReturnsTheNameThatWasRegistered) {
+  script.Type(101, "新しい").Click(103).Click(1);
+  EXPECT_EQ(Call(0, "off"), "1|off|新しい");
+  EXPECT_EQ(folder.Read(kList), std::string("新しい\r\n"_sj));
+}
+
+TEST_F(DataSourceTest, ADeletionRewritesTheListAndChoosesTheCommonArea) {
+  folder.Write(kList, ";comment\r\n\r\nname1\nname2\nname3");
+  script.Type(101, "name4").Click(103).Pick(135, 1).Click(109);
+  script.ShowsRows(135, {kCommonArea, "name2", "name3", "name4"}).Shows(1048, "  1/  4");
+  script.Shows(135, kCommonArea).Pick(135, 3).Click(109).Click(109).Click(1);
+  EXPECT_EQ(Call(2, "on"), "0|on|HD(共通領域)");
+  EXPECT_EQ(folder.Read(kList), Lines(2, 3));
+}
+
+TEST_F(DataSourceTest, LinesAreCutAtNinetyEightBytes) {
+  const std::string full(98, 'a');
+  folder.Write(kList, full + "\r\n" + full + "b\r\n" + full + full + full + "cccccc\r\n");
+  script.ShowsRows(135, {kCommonArea, full, full, "b", full, full, full, "cccccc"}).Escape();
+  Call(0, "off");
+}
+
+TEST_F(DataSourceTest, StrangeBytesAreShownAndKept) {
+  const std::string bytes =
+      std::string("a\0b\r\n", 5) + "\x81\r\n" + "\xFF\x80\r\n" + "x\x85\x40\r\n";
+  folder.Write(kList, bytes + "last\r\n");
+  script.ShowsRows(135, {kCommonArea, "a", "\uFFFD", "\uF8F3\u0080", "x\uFFFD", "last"});
+  script.Pick(135, 5).Click(109).Pick(135, 4).Click(1);
+  const CString name = "x\x85\x40";
+  ScopedFrontEnd scope(&script);
+  EXPECT_EQ(OnDataSourceSet(0, "off", folder.Argument()), CString("4|off|") + name);
+  EXPECT_EQ(script.Failures(), "");
+  EXPECT_EQ(folder.Read(kList), "a\r\n\x81\r\n\xFF\x80\r\nx\x85\x40\r\n");
+}
+
+TEST_F(DataSourceTest, AFullListTakesNoNameAndLosesNone) {
+  folder.Write(kList, Lines(1, 5000));
+  script.Shows(1048, "100/100").Type(101, "one more").Click(103).Shows(101, "one more");
+  script.Pick(135, 99).Click(109).Shows(1048, "  1/100").Pick(135, 99).Shows(135, "name100");
+  script.Click(1);
+  EXPECT_EQ(Call(99, "off"), "99|off|name100");
+  EXPECT_EQ(folder.Read(kList), Lines(1, 98) + Lines(100, 5000));
+}
+
+TEST_F(DataSourceTest, TheNinetyNinthNameStillFits) {
+  folder.Write(kList, Lines(1, 98));
+  script.Type(101, "name99").Click(103).Type(101, "name100").Click(103).Shows(101, "name100");
+  script.Click(1);
+  EXPECT_EQ(Call(0, "off"), "99|off|name99");
+  EXPECT_EQ(folder.Read(kList), Lines(1, 99));
+}
+
+TEST_F(DataSourceTest, AFolderThatIsMissingOrALackingSeparatorReadsAsNoList) {
+  folder.Write(kList, Lines(1, 2));
+  for (const std::string& argument :
+       {folder.Path().string(), folder.Path().string() + "/none/", std::string()}) {
+    ScriptFrontEnd visit;
+    visit.OpensDialog(134).Shows(1048, "  1/  1").Type(101, "x").Click(1);
+    ScopedFrontEnd scope(&visit);
+    EXPECT_EQ(OnDataSourceSet(5, "off", argument.c_str()), CString("0|off|HD(共通領域)"_sj));
+    EXPECT_EQ(visit.Failures(), "");
+  }
+}
+
+TEST_F(DataSourceTest, AFolderInThePlaceOfTheListIsLeftAlone) {
+  std::filesystem::create_directory(folder.Path() / kList);
+  script.Shows(1048, "  1/  1").Type(101, "x").Click(103).Shows(101, "x").Escape();
+  EXPECT_EQ(Call(0, "off"), "");
+  EXPECT_TRUE(std::filesystem::is_directory(folder.Path() / kList));
+}
+
+TEST_F(DataSourceTest, ALongLineWithoutAnEndOpensAndStays) {
+  folder.Write(kList, std::string(64u << 20, 'a'));
+  script.Shows(1048, "  1/100").Pick(135, 1).Click(109).Escape();
+  Call(0, "off");
+  EXPECT_EQ(std::filesystem::file_size(folder.Path() / kList), (64u << 20) - 98 + 98 * 2);
+}
+
+}  // namespace
+}  // namespace orreryui

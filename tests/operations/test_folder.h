@@ -1,0 +1,49 @@
+// A folder of its own for a test, with the bytes of its files.
+#ifndef ORRERYUI_TESTS_OPERATIONS_TEST_FOLDER_H_
+#define ORRERYUI_TESTS_OPERATIONS_TEST_FOLDER_H_
+
+#include <orreryui/cstring.h>
+#include <stdlib.h>
+
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <optional>
+#include <string>
+
+namespace orreryui {
+
+class TestFolder {
+ public:
+  TestFolder() {
+    std::string name = (std::filesystem::temp_directory_path() / "orreryui-XXXXXX").string();
+    if (mkdtemp(name.data())) path_ = name;
+  }
+  ~TestFolder() {
+    std::error_code ignored;
+    std::filesystem::remove_all(path_, ignored);
+  }
+  TestFolder(const TestFolder&) = delete;
+  TestFolder& operator=(const TestFolder&) = delete;
+
+  const std::filesystem::path& Path() const { return path_; }
+  // As an operation wants it, with the separator behind it.
+  CString Argument() const { return (path_.string() + "/").c_str(); }
+
+  void Write(const std::string& name, const std::string& bytes) const {
+    std::ofstream(path_ / name, std::ios::binary) << bytes;
+  }
+  // Nothing if there is no such file.
+  std::optional<std::string> Read(const std::string& name) const {
+    std::ifstream file(path_ / name, std::ios::binary);
+    if (!file) return std::nullopt;
+    return std::string(std::istreambuf_iterator<char>(file), {});
+  }
+
+ private:
+  std::filesystem::path path_;
+};
+
+}  // namespace orreryui
+
+#endif  // ORRERYUI_TESTS_OPERATIONS_TEST_FOLDER_H_
