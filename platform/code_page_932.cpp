@@ -16,6 +16,17 @@ namespace {
 
 using Code = std::uint16_t;
 
+// Characters that other systems use for those of this code page, and these.
+constexpr char16_t kNeighbours[][2] = {
+    {0x301C, 0xFF5E},  // wave dash
+    {0x2212, 0xFF0D},  // minus
+    {0x2016, 0x2225},  // double vertical line
+    {0x00A2, 0xFFE0},  // cent
+    {0x00A3, 0xFFE1},  // pound
+    {0x00AC, 0xFFE2},  // not
+    {0x2014, 0x2015},  // dash
+};
+
 // Both directions by index. A code is a single byte, or lead byte * 256 + trail byte.
 struct Tables {
   std::array<char16_t, 0x10000> characters;  // kReplacementCharacter for what is unassigned
@@ -33,6 +44,7 @@ struct Tables {
     for (std::size_t i = 0; i < kCodePage932DecodeOnly.size(); i += 2) {
       characters[kCodePage932DecodeOnly[i + 1]] = kCodePage932DecodeOnly[i];
     }
+    for (const auto& [typed, meant] : kNeighbours) codes[typed] = codes[meant];
   }
 
   void Join(Code code, char16_t character) {
@@ -70,45 +82,25 @@ char16_t TakeCharacter(const Tables& tables, std::string_view& bytes) {
   return tables.characters[static_cast<std::size_t>(first << 8 | static_cast<unsigned char>(next))];
 }
 
-// The character of this code page that is meant by one that it lacks.
-char32_t Neighbour(char32_t character) {
-  switch (character) {
-    case 0x301C:
-      return 0xFF5E;  // wave dash
-    case 0x2212:
-      return 0xFF0D;  // minus
-    case 0x2016:
-      return 0x2225;  // double vertical line
-    case 0x00A2:
-      return 0xFFE0;  // cent
-    case 0x00A3:
-      return 0xFFE1;  // pound
-    case 0x00AC:
-      return 0xFFE2;  // not
-    case 0x2014:
-      return 0x2015;  // dash
-    default:
-      return character;
+// Encodes one character at `to`, at most two bytes, or lists it in `refused`. Returns the end of
+// what it wrote.
+char* PutCharacter(const Tables& tables, char* to, char32_t character, std::string& refused) {
+  const Code code = character < 0x10000 ? tables.codes[character] : Code{0};
+  if (code > 0xFF) *to++ = static_cast<char>(code >> 8);
+  if (code != 0 || character == 0) {
+    *to++ = static_cast<char>(code & 0xFF);
+  } else {
+    AppendUtf8(refused, character);
   }
-}
-
-void AppendCharacter(const Tables& tables, Encoded& to, char32_t character) {
-  if (character < 0x80) {
-    to.bytes += static_cast<char>(character);
-    return;
-  }
-  const char32_t meant = Neighbour(character);
-  const Code code = meant < 0x10000 ? tables.codes[meant] : Code{0};
-  if (code == 0) {
-    AppendUtf8(to.refused, character);
-    return;
-  }
-  if (code > 0xFF) to.bytes += static_cast<char>(code >> 8);
-  to.bytes += static_cast<char>(code & 0xFF);
+  return to;
 }
 
 constexpr char32_t kVoiced = 0x3099;
 constexpr char32_t kSemiVoiced = 0x309A;
+
+constexpr bool IsMark(char32_t character) {
+  return character == kVoiced || character == kSemiVoiced;
+}
 
 // The kana that `base` and a combining mark make, or 0. In Unicode a voiced kana follows its base
 // and a semi-voiced one comes after that, and katakana stand 60 hexadecimal above hiragana.
@@ -130,9 +122,8 @@ std::u32string ReadComposed(std::string_view text) {
   std::u32string characters;
   while (!text.empty()) {
     const char32_t character = TakeUtf8(text);
-    const bool mark = character == kVoiced || character == kSemiVoiced;
     const char32_t composed =
-        mark && !characters.empty() ? ComposeKana(characters.back(), character) : 0;
+        IsMark(character) && !characters.empty() ? ComposeKana(characters.back(), character) : 0;
     if (composed) {
       characters.back() = composed;
     } else {
@@ -142,19 +133,15 @@ std::u32string ReadComposed(std::string_view text) {
   return characters;
 }
 
-bool HasCombiningMark(std::string_view text) {
-  for (const std::string_view mark : {"\u3099", "\u309A"}) {
-    // The last byte is the rare one.
-    for (auto i = text.find(mark[2]); i != text.npos; i = text.find(mark[2], i + 1)) {
-      if (i >= 2 && text.substr(i - 2, 3) == mark) return true;
-    }
-  }
-  return false;
-}
-
-void AppendCharacters(Encoded& to, std::u32string_view characters) {
+Encoded Encode(std::u32string_view characters) {
   const Tables& tables = GetTables();
-  for (const char32_t character : characters) AppendCharacter(tables, to, character);
+  Encoded result{std::string(characters.size() * 2, '\0'), ""};
+  char* to = result.bytes.data();
+  for (const char32_t character : characters) {
+    to = PutCharacter(tables, to, character, result.refused);
+  }
+  result.bytes.resize(static_cast<std::size_t>(to - result.bytes.data()));
+  return result;
 }
 
 struct Decoded {
@@ -196,21 +183,23 @@ std::string ToUtf8(std::string_view bytes) {
 }
 
 Encoded FromUtf8(std::string_view text) {
-  Encoded result;
-  if (HasCombiningMark(text)) {
-    AppendCharacters(result, ReadComposed(text));
-    return result;
-  }
   const Tables& tables = GetTables();
-  result.bytes.reserve(text.size());
-  while (!text.empty()) {
-    const std::size_t ascii = AsciiLength(text);
-    result.bytes += text.substr(0, ascii);
-    text.remove_prefix(ascii);
-    while (!text.empty() && static_cast<unsigned char>(text[0]) >= 0x80) {
-      AppendCharacter(tables, result, TakeUtf8(text));
+  // No character takes more bytes in this code page than in UTF-8.
+  Encoded result{std::string(text.size(), '\0'), ""};
+  char* to = result.bytes.data();
+  std::string_view rest = text;
+  while (!rest.empty()) {
+    const std::size_t ascii = AsciiLength(rest);
+    std::memcpy(to, rest.data(), ascii);
+    to += ascii;
+    rest.remove_prefix(ascii);
+    while (!rest.empty() && static_cast<unsigned char>(rest[0]) >= 0x80) {
+      const char32_t character = TakeUtf8(rest);
+      if (IsMark(character)) return Encode(ReadComposed(text));
+      to = PutCharacter(tables, to, character, result.refused);
     }
   }
+  result.bytes.resize(static_cast<std::size_t>(to - result.bytes.data()));
   return result;
 }
 
@@ -229,8 +218,7 @@ Encoded MergeEdit(std::string_view old_bytes, std::string_view new_text) {
 
   const std::size_t head_end = old.starts[head];
   Encoded result{std::string(old_bytes.substr(0, head_end)), ""};
-  Encoded rest;
-  AppendCharacters(rest, std::u32string_view(text).substr(head, text.size() - head - tail));
+  Encoded rest = Encode(std::u32string_view(text).substr(head, text.size() - head - tail));
   rest.bytes += old_bytes.substr(old.starts[old_size - tail]);
   const bool ends_in_lone_lead =
       head > 0 && head_end - old.starts[head - 1] == 1 && IsLeadByte(result.bytes.back());

@@ -129,6 +129,7 @@ TEST(CodePage932, DecodesBrokenTextByTheLeadByteRule) {
   EXPECT_EQ(ToUtf8("\x81\x7F"), "\uFFFD\x7F");
   EXPECT_EQ(ToUtf8(std::string("\x83\0x", 3)), std::string("\uFFFD\0x", 5));
   EXPECT_EQ(ToUtf8(""), "");
+  EXPECT_EQ(FromUtf8(std::string("a\0あ\0", 6)).bytes, std::string("a\0\x82\xA0\0", 5));
 }
 
 TEST(CodePage932, ConvertsLongMixedText) {
@@ -246,7 +247,7 @@ TEST(MergeEdit, ALeadByteAloneNeverSwallowsWhatFollows) {
 
 TEST(MergeEdit, AnUneditedBoxKeepsEveryByte) {
   for (const int code : DoubleByteCodes()) {
-    const std::string bytes = "a" + Bytes(code) + "b";
+    const std::string bytes = Bytes(code) + "a" + Bytes(code);
     ASSERT_EQ(MergeEdit(bytes, ToUtf8(bytes)).bytes, bytes);
   }
 }
