@@ -1,0 +1,50 @@
+// Any bytes decode, what was encoded comes back unchanged, and an edit box that nobody edited keeps
+// its bytes.
+#include <cstddef>
+#include <cstdint>
+#include <cstdlib>
+#include <string_view>
+
+#include "platform/code_page_932.h"
+
+namespace {
+
+using orreryui::Encoded;
+
+void Require(bool condition) {
+  if (!condition) std::abort();
+}
+
+void CheckBytes(std::string_view bytes) {
+  const std::string text = orreryui::ToUtf8(bytes);
+  Require(orreryui::MergeEdit(bytes, text).bytes == bytes);
+  const Encoded encoded = orreryui::FromUtf8(text);
+  Require(orreryui::ToUtf8(encoded.bytes).size() + encoded.refused.size() == text.size());
+}
+
+// Encodes text that may be no UTF-8, and what came of it once more.
+void CheckText(std::string_view text) {
+  const Encoded first = orreryui::FromUtf8(text);
+  const Encoded second = orreryui::FromUtf8(orreryui::ToUtf8(first.bytes));
+  Require(second.bytes == first.bytes && second.refused.empty());
+}
+
+// What an edit leaves in the box is what the user sees there, but for the refused characters.
+void CheckEdit(std::string_view old_bytes, std::string_view new_text) {
+  const Encoded merged = orreryui::MergeEdit(old_bytes, new_text);
+  const std::string shown = orreryui::ToUtf8(merged.bytes);
+  Require(orreryui::FromUtf8(shown).bytes == orreryui::FromUtf8(new_text).bytes);
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+  const std::string_view input(reinterpret_cast<const char*>(data), size);
+  CheckBytes(input);
+  CheckText(input);
+  const std::size_t half = size / 2;
+  CheckEdit(input.substr(0, half), input.substr(half));
+  CheckEdit(input.substr(0, half),
+            orreryui::ToUtf8(input.substr(0, half)).append(input.substr(half)));
+  return 0;
+}
