@@ -1,0 +1,143 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "frame/line_file.h"
+#include "tests/files/faulty_file_system.h"
+#include "tests/operations/test_folder.h"
+
+namespace orreryui {
+namespace {
+
+using Lines = std::vector<std::string>;
+
+class LineReaderTest : public testing::Test {
+ protected:
+  Lines Read(const std::string& content, std::size_t limit) {
+    folder_.Write("file", content);
+    return ReadFile("file", limit);
+  }
+  Lines ReadFile(const std::string& name, std::size_t limit) {
+    LineReader reader((folder_.Path() / name).c_str(), limit);
+    Lines lines;
+    std::string_view line;
+    while (reader.ReadLine(line)) lines.emplace_back(line);
+    EXPECT_TRUE(line.empty());
+    EXPECT_FALSE(reader.ReadLine(line)) << "the end stays the end";
+    return lines;
+  }
+  TestFolder folder_;
+};
+
+TEST_F(LineReaderTest, EndsLinesAtLfWithOrWithoutCr) {
+  const struct {
+    std::string content;
+    Lines lines;
+  } kCases[] = {
+      {"", {}},
+      {"a", {"a"}},
+      {"a\n", {"a", ""}},
+      {"a\r\nb\nc", {"a", "b", "c"}},
+      {"\n", {"", ""}},
+      {"\r\n\r\nx", {"", "", "x"}},
+      {"a\rb\r\r\nc\r", {"a\rb\r", "c\r"}},
+      {std::string("ab\0cd\r\n\0\ne", 10), {"ab", "", "e"}},
+  };
+  for (const auto& c : kCases) EXPECT_EQ(Read(c.content, 99), c.lines) << c.content;
+}
+
+TEST_F(LineReaderTest, CutsAtTheLimitAndNowhereElse) {
+  for (const std::size_t limit : {2u, 99u, 150u, 200u, 3199u}) {
+    const std::size_t most = limit - 1;
+    for (const std::string end : {"\n", "\r\n"}) {
+      for (std::size_t length = most - 1; length <= 2 * most + 1; ++length) {
+        const std::string text(length, 'x');
+        Lines expected;
+        for (std::size_t i = 0; i < length; i += most) expected.push_back(text.substr(i, most));
+        if (length == 0) expected.push_back("");
+        expected.push_back("n");
+        ASSERT_EQ(Read(text + end + "n", limit), expected) << limit << " " << length;
+      }
+    }
+  }
+}
+
+TEST_F(LineReaderTest, ALastLineThatJustFitsHasNothingBehindIt) {
+  EXPECT_EQ(Read("12345", 6), Lines({"12345"}));
+  EXPECT_EQ(Read("1234567890", 6), Lines({"12345", "67890"}));
+  EXPECT_EQ(Read("12345\r\n", 6), Lines({"12345", ""}));
+  EXPECT_EQ(Read("12345\r", 6), Lines({"12345", "\r"}));
+}
+
+TEST_F(LineReaderTest, LinesAreTheSameHoweverTheBlocksFall) {
+  std::string content;
+  for (int i = 0; i < 400; ++i)
+    content += std::string(static_cast<std::size_t>(i % 37), 'x') + "\r\n";
+  const Lines expected = Read(content, 30);
+  for (const std::size_t piece : {1u, 2u, 31u, 64u}) {
+    FaultyFileSystem files;
+    files.longest_read = piece;
+    const ScopedFileSystem scope(files);
+    EXPECT_EQ(Read(content, 30), expected) << piece;
+  }
+}
+
+TEST_F(LineReaderTest, ManyBlocksComeWhole) {
+  std::string content;
+  Lines expected;
+  for (int i = 0; i < 50000; ++i) {
+    expected.push_back("line " + std::to_string(i));
+    content += expected.back() + "\r\n";
+  }
+  expected.push_back("");
+  EXPECT_EQ(Read(content, 99), expected);
+}
+
+TEST_F(LineReaderTest, WhatCannotBeOpenedHasNoLines) {
+  EXPECT_EQ(ReadFile("missing", 99), Lines());
+  EXPECT_EQ(ReadFile(".", 99), Lines()) << "a folder";
+  EXPECT_FALSE(LineReader("", 99).IsOpen());
+}
+
+TEST_F(LineReaderTest, ReadsAHugeLineInPieces) {
+  constexpr std::size_t kSize = std::size_t{64} << 20;
+  folder_.Write("file", std::string(kSize, 'x'));
+  LineReader reader((folder_.Path() / "file").c_str(), 3199);
+  std::string_view line;
+  std::size_t total = 0;
+  while (reader.ReadLine(line)) {
+    ASSERT_LE(line.size(), 3198u);
+    total += line.size();
+  }
+  EXPECT_EQ(total, kSize);
+}
+
+TEST_F(LineReaderTest, TellsABrokenReadFromTheEnd) {
+  folder_.Write("file", std::string(100, 'x') + "\nlast");
+  FaultyFileSystem files(3);  // the opening and a first read succeed
+  files.longest_read = 101;
+  const ScopedFileSystem scope(files);
+  LineReader reader((folder_.Path() / "file").c_str(), 200);
+  CString line;
+  EXPECT_TRUE(reader.ReadLine(line));
+  EXPECT_FALSE(reader.Failed());
+  EXPECT_FALSE(reader.ReadLine(line));
+  EXPECT_TRUE(reader.Failed());
+}
+
+TEST_F(LineReaderTest, GivesTheRestByteForByte) {
+  const std::string rest("; b\r\n\n\0c\nd", 11);
+  folder_.Write("file", "a\r\n" + rest);
+  LineReader reader((folder_.Path() / "file").c_str(), 99);
+  CString line;
+  ASSERT_TRUE(reader.ReadLine(line));
+  EXPECT_STREQ(line, "a");
+  EXPECT_EQ(reader.ReadRest(), rest);
+  EXPECT_FALSE(reader.ReadLine(line));
+  EXPECT_FALSE(reader.Failed());
+}
+
+}  // namespace
+}  // namespace orreryui

@@ -1,0 +1,163 @@
+#include <gtest/gtest.h>
+#include <signal.h>
+#include <sys/resource.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <functional>
+#include <map>
+#include <string>
+
+#include "frame/line_file.h"
+#include "tests/files/faulty_file_system.h"
+#include "tests/operations/test_folder.h"
+
+namespace orreryui {
+namespace {
+
+using Files = std::map<std::string, std::string>;  // names and bytes of a folder
+
+class LineWriterTest : public testing::Test {
+ protected:
+  std::string PathOf(const std::string& name) const { return (folder_.Path() / name).string(); }
+
+  void Fill(const Files& files) const {
+    for (const auto& entry : std::filesystem::directory_iterator(folder_.Path())) {
+      std::filesystem::remove_all(entry.path());
+    }
+    for (const auto& [name, bytes] : files) folder_.Write(name, bytes);
+  }
+
+  Files Content() const {
+    Files files;
+    for (const auto& entry : std::filesystem::directory_iterator(folder_.Path())) {
+      const std::string name = entry.path().filename().string();
+      files[name] = folder_.Read(name).value_or("");
+    }
+    return files;
+  }
+
+  // Fails each call of `change` in turn. The folder must hold `before` after a change that says it
+  // failed, and `after` when it says that it worked.
+  void ExpectAllOrNothing(const Files& before, const Files& after,
+                          const std::function<bool()>& change) const {
+    for (int call = 1;; ++call) {
+      Fill(before);
+      FaultyFileSystem files(call);
+      bool changed = false;
+      {
+        const ScopedFileSystem scope(files);
+        changed = change();
+      }
+      ASSERT_EQ(Content(), changed ? after : before) << "call " << call;
+      if (files.calls() < call) {
+        EXPECT_TRUE(changed);
+        EXPECT_GT(call, 3) << "no call was failed";
+        return;
+      }
+    }
+  }
+
+  TestFolder folder_;
+};
+
+TEST_F(LineWriterTest, CreatesAFileOrNone) {
+  ExpectAllOrNothing({}, {{"f", "a\r\nb\r\n"}},
+                     [&] { return CreateFile(PathOf("f").c_str(), "a\r\nb\r\n"); });
+}
+
+TEST_F(LineWriterTest, CreatesOverAnOldFileOrKeepsIt) {
+  for (const std::string old : {"", "x\r\n", "a much longer content than the new one\r\n"}) {
+    ExpectAllOrNothing({{"f", old}}, {{"f", "a\r\nb\r\n"}},
+                       [&] { return CreateFile(PathOf("f").c_str(), "a\r\nb\r\n"); });
+  }
+}
+
+TEST_F(LineWriterTest, AppendsALineOrNone) {
+  const auto append = [&] { return AppendLine(PathOf("f").c_str(), "new", IfMissing::kFail); };
+  ExpectAllOrNothing({{"f", "old\r\n"}}, {{"f", "old\r\nnew\r\n"}}, append);
+  ExpectAllOrNothing({{"f", ""}}, {{"f", "new\r\n"}}, append);
+  ExpectAllOrNothing({{"f", "no end"}}, {{"f", "no end\r\nnew\r\n"}}, append);
+  ExpectAllOrNothing({}, {{"f", "new\r\n"}},
+                     [&] { return AppendLine(PathOf("f").c_str(), "new", IfMissing::kCreate); });
+}
+
+TEST_F(LineWriterTest, RewritesInPlaceOrNotAtAll) {
+  for (const std::string content : {"", "a\r\n", "a content that is longer than the old one\r\n"}) {
+    ExpectAllOrNothing({{"f", "first\r\nsecond\r\n"}}, {{"f", content}},
+                       [&] { return RewriteInPlace(PathOf("f").c_str(), content); });
+  }
+}
+
+TEST_F(LineWriterTest, ReplacesThroughANewFileOrNotAtAll) {
+  const auto replace = [&] {
+    return ReplaceThroughNewFile(PathOf("f").c_str(), PathOf("f.new").c_str(), "new\r\n");
+  };
+  ExpectAllOrNothing({{"f", "old content\r\n"}}, {{"f", "new\r\n"}}, replace);
+  Fill({{"f", "old\r\n"}, {"f.new", "left behind, and longer than the new content\r\n"}});
+  EXPECT_TRUE(replace());
+  EXPECT_EQ(Content(), (Files{{"f", "new\r\n"}}));
+}
+
+TEST_F(LineWriterTest, RenamesOrNotAtAll) {
+  const auto rename = [&] { return RenameFile(PathOf("a").c_str(), PathOf("b").c_str()); };
+  Fill({{"a", "A"}});
+  {
+    FaultyFileSystem files(2);  // the names can't be brought to the disk
+    const ScopedFileSystem scope(files);
+    EXPECT_FALSE(rename());
+  }
+  EXPECT_EQ(Content(), (Files{{"a", "A"}}));
+  EXPECT_TRUE(rename());
+  EXPECT_EQ(Content(), (Files{{"b", "A"}}));
+  Fill({{"a", "A"}, {"B", "B"}});
+  EXPECT_FALSE(rename()) << "the name is taken, in another case";
+  EXPECT_EQ(Content(), (Files{{"a", "A"}, {"B", "B"}}));
+}
+
+TEST_F(LineWriterTest, WhatMustExistIsNotMade) {
+  EXPECT_FALSE(AppendLine(PathOf("f").c_str(), "new", IfMissing::kFail));
+  EXPECT_FALSE(RewriteInPlace(PathOf("f").c_str(), "new"));
+  EXPECT_FALSE(ReplaceThroughNewFile(PathOf("f").c_str(), PathOf("g").c_str(), "new"));
+  EXPECT_FALSE(RemoveFile(PathOf("f").c_str()));
+  EXPECT_FALSE(RenameFile(PathOf("f").c_str(), PathOf("g").c_str()));
+  EXPECT_FALSE(FileExists(PathOf("f").c_str()));
+  EXPECT_EQ(Content(), Files());
+}
+
+TEST_F(LineWriterTest, RefusesFoldersAndPathsThroughFiles) {
+  Fill({{"file", "x"}});
+  std::filesystem::create_directory(folder_.Path() / "folder");
+  for (const std::string name : {"folder", "missing/f", "file/f"}) {
+    EXPECT_FALSE(CreateFile(PathOf(name).c_str(), "new")) << name;
+    EXPECT_FALSE(AppendLine(PathOf(name).c_str(), "new", IfMissing::kCreate)) << name;
+    EXPECT_FALSE(FileExists(PathOf(name).c_str())) << name;
+  }
+  EXPECT_EQ(folder_.Read("file"), "x");
+}
+
+// The system itself refuses to let a file grow, as it does on a full disk.
+TEST_F(LineWriterTest, PutsFilesBackWhenTheSystemStopsAWrite) {
+  const std::string old(900, 'o');
+  Fill({{"append", old}, {"rewrite", old}, {"replace", old}});
+  const pid_t child = fork();
+  ASSERT_NE(child, -1);
+  if (child == 0) {
+    signal(SIGXFSZ, SIG_IGN);
+    const rlimit limit{1000, 1000};
+    if (setrlimit(RLIMIT_FSIZE, &limit) != 0) _exit(1);
+    const std::string more(2000, 'n');
+    const bool any = AppendLine(PathOf("append").c_str(), more.c_str(), IfMissing::kFail) ||
+                     RewriteInPlace(PathOf("rewrite").c_str(), more) ||
+                     CreateFile(PathOf("create").c_str(), more) ||
+                     ReplaceThroughNewFile(PathOf("replace").c_str(), PathOf("new").c_str(), more);
+    _exit(any ? 2 : 0);
+  }
+  int status = 0;
+  ASSERT_EQ(waitpid(child, &status, 0), child);
+  EXPECT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) == 0) << status;
+  EXPECT_EQ(Content(), (Files{{"append", old}, {"rewrite", old}, {"replace", old}}));
+}
+
+}  // namespace
+}  // namespace orreryui

@@ -1,0 +1,112 @@
+#include "platform/path.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "platform/code_page_932.h"
+#include "platform/file_system.h"
+#include "tests/operations/test_folder.h"
+
+namespace orreryui {
+namespace {
+
+class PathTest : public testing::Test {
+ protected:
+  // Looks for `path`, in code page 932, below the folder and gives back what follows it.
+  std::string Find(const std::string& path) const {
+    const std::string root = folder_.Path().string();
+    const std::string native = NativePath("C:" + root + "\\" + path);
+    EXPECT_EQ(native.substr(0, root.size() + 1), root + "/");
+    return native.substr(root.size() + 1);
+  }
+  void MakeFolder(const std::string& name) const {
+    std::filesystem::create_directories(folder_.Path() / name);
+  }
+  TestFolder folder_;
+};
+
+std::string CodePage(const std::string& utf8) {
+  const Encoded encoded = FromUtf8(utf8);
+  EXPECT_EQ(encoded.refused, "");
+  return encoded.bytes;
+}
+
+TEST(NativePathTest, SeparatorsAndDrives) {
+  const struct {
+    const char* path;
+    const char* native;
+  } kCases[] = {
+      {"", ""},
+      {"\\", "/"},
+      {"C:\\", "/"},
+      {"C:\\no such folder\\a.dat", "/no such folder/a.dat"},
+      {"z:/no such folder\\a.dat", "/no such folder/a.dat"},
+      {"no such folder\\a.dat", "no such folder/a.dat"},
+      {"C:no such file", "no such file"},
+      {"\\\\no such host\\\\x\\", "/no such host/x"},
+      {"no:such\\x", "no:such/x"},
+  };
+  for (const auto& c : kCases) EXPECT_EQ(NativePath(c.path), c.native) << c.path;
+}
+
+TEST(NativePathTest, ATrailByteDoesNotSeparate) {
+  // 表 is 955C, ポ is 837C, ソ is 835C.
+  EXPECT_EQ(NativePath("no such\\\x95\x5C\\\x83\x5C\x83\x7C.txt"), "no such/表/ソポ.txt");
+  // A lead byte without its second half swallows nothing.
+  EXPECT_EQ(NativePath("no such\\\x95/x"), "no such/\x95/x");
+}
+
+TEST_F(PathTest, FindsNamesWithoutRegardToCase) {
+  MakeFolder("Source/Photos");
+  folder_.Write("Source/Photos/Ｐｈｏｔｏ1.JPG", "");
+  const std::string expected = "Source/Photos/Ｐｈｏｔｏ1.JPG";
+  EXPECT_EQ(Find(CodePage("Source\\Photos\\Ｐｈｏｔｏ1.JPG")), expected);
+  EXPECT_EQ(Find(CodePage("source\\PHOTOS\\ｐＨＯＴＯ1.jpg")), expected);
+  EXPECT_NE(Find(CodePage("source\\photos\\photo1.jpg")), expected) << "widths differ";
+}
+
+TEST_F(PathTest, PrefersTheSpellingGivenThenTheFirstInByteOrder) {
+  for (const char* name : {"list.dat", "LIST.DAT", "List.Dat"}) folder_.Write(name, "");
+  EXPECT_EQ(Find("List.Dat"), "List.Dat");
+  EXPECT_EQ(Find("list.dat"), "list.dat");
+  EXPECT_EQ(Find("lISt.dat"), "LIST.DAT");
+}
+
+TEST_F(PathTest, FindsNamesThatAreRawBytes) {
+  const std::string name = CodePage("地図.DAT");
+  folder_.Write(name, "");
+  EXPECT_EQ(Find(name), name);
+  EXPECT_EQ(Find(CodePage("地図.dat")), name) << "in another case";
+  folder_.Write("地図.DAT", "");
+  EXPECT_EQ(Find(name), "地図.DAT") << "UTF-8 comes first";
+}
+
+TEST_F(PathTest, FindsNamesOfOtherSystems) {
+  folder_.Write("か\u3099くかく.txt", "");  // decomposed
+  folder_.Write("1\u301C2.txt", "");        // a wave dash
+  EXPECT_EQ(Find(CodePage("がくかく.txt")), "か\u3099くかく.txt");
+  EXPECT_EQ(Find(CodePage("1～2.txt")), "1\u301C2.txt");
+}
+
+TEST_F(PathTest, SpellsWhatIsMissingAsGivenBelowTheFoldersFound) {
+  MakeFolder("Data");
+  EXPECT_EQ(Find(CodePage("DATA\\ルートA\\New.txt")), "Data/ルートA/New.txt");
+  EXPECT_EQ(Find("data\\\x85\xFC.txt"), "Data/\x85\xFC.txt") << "bytes that make no character";
+}
+
+TEST_F(PathTest, TheWayBackLeadsToTheSameFile) {
+  for (const std::string name : {"表ソ.txt", "a b.TXT", "か\u3099.txt", "1\u301C2.txt"}) {
+    folder_.Write(name, "");
+    const auto path = PathFromNative((folder_.Path() / name).string());
+    ASSERT_TRUE(path) << name;
+    EXPECT_EQ(path->find('/'), std::string::npos);
+    EXPECT_EQ(NativePath(*path), (folder_.Path() / name).string());
+  }
+  EXPECT_FALSE(PathFromNative("/tmp/😀.txt"));
+  EXPECT_FALSE(PathFromNative("/tmp/a\\b.txt"));
+  EXPECT_FALSE(PathFromNative("/tmp/\xFF.txt"));
+}
+
+}  // namespace
+}  // namespace orreryui
