@@ -52,7 +52,8 @@ TEST_F(LineReaderTest, CutsAtTheLimitAndNowhereElse) {
   for (const std::size_t limit : {2u, 99u, 150u, 200u, 3199u}) {
     const std::size_t most = limit - 1;
     for (const std::string end : {"\n", "\r\n"}) {
-      for (std::size_t length = most - 1; length <= 2 * most + 1; ++length) {
+      for (const std::size_t length :
+           {most - 1, most, most + 1, 2 * most - 1, 2 * most, 2 * most + 1}) {
         const std::string text(length, 'x');
         Lines expected;
         for (std::size_t i = 0; i < length; i += most) expected.push_back(text.substr(i, most));
