@@ -1,0 +1,70 @@
+#include "front_ends/qt/application.h"
+
+#include <link.h>
+
+#include <QApplication>
+#include <QLibraryInfo>
+#include <QThread>
+#include <QTranslator>
+#include <QVersionNumber>
+#include <string_view>
+
+#include "front_ends/qt/display_probe.h"
+#include "front_ends/qt/process_state.h"
+
+namespace orreryui {
+namespace {
+
+int NoteForeignQt(dl_phdr_info* info, std::size_t, void* found) {
+  const std::string_view path = info->dlpi_name != nullptr ? info->dlpi_name : "";
+  const std::string_view name = path.substr(path.rfind('/') + 1);
+  for (std::string_view foreign : {"libQtCore.so", "libQt4Core", "libQt5Core"}) {
+    if (name.substr(0, foreign.size()) == foreign) *static_cast<bool*>(found) = true;
+  }
+  return 0;
+}
+
+// Two Qts in one process share names of symbols and end in a crash.
+bool HasForeignQt() {
+  bool found = false;
+  dl_iterate_phdr(NoteForeignQt, &found);
+  const QVersionNumber built(QT_VERSION_MAJOR, QT_VERSION_MINOR, QT_VERSION_PATCH);
+  return found || QLibraryInfo::version() < built;
+}
+
+void MakeApplication(const QByteArray& platform) {
+  // Qt keeps references to both, and so must they stay.
+  static int argument_count = 1;
+  static char name[] = "orreryui";
+  static char* arguments[] = {name, nullptr};
+
+  const ProcessState state;
+  qputenv("QT_QPA_PLATFORM", platform);
+  qputenv("FC_LANG", "ja");  // of glyphs that Chinese and Japanese share, the Japanese ones
+  auto* application = new QApplication(argument_count, arguments);
+  QApplication::setQuitOnLastWindowClosed(false);
+  auto* translator = new QTranslator(application);
+  if (translator->load(QStringLiteral("qtbase_ja"),
+                       QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
+    QCoreApplication::installTranslator(translator);
+  }
+}
+
+}  // namespace
+
+bool HasApplication() {
+  QCoreApplication* const application = QCoreApplication::instance();
+  return qobject_cast<QApplication*>(application) != nullptr &&
+         application->thread() == QThread::currentThread();
+}
+
+bool FindOrMakeApplication() {
+  if (HasForeignQt()) return false;
+  if (QCoreApplication::instance() != nullptr) return HasApplication();
+  const std::optional<QByteArray> platform = UsablePlatform();
+  if (!platform) return false;
+  MakeApplication(*platform);
+  return true;
+}
+
+}  // namespace orreryui

@@ -1,0 +1,107 @@
+#include "front_ends/qt/button_binders.h"
+
+#include <QCheckBox>
+#include <QRadioButton>
+#include <QStyle>
+
+#include "front_ends/qt/text_fit.h"
+#include "front_ends/qt/widget_text.h"
+
+namespace orreryui {
+namespace {
+
+QSize IndicatorRoom(const QWidget& widget, QStyle::PixelMetric width, QStyle::PixelMetric spacing) {
+  const QStyle& style = *widget.style();
+  return {
+      style.pixelMetric(width, nullptr, &widget) + style.pixelMetric(spacing, nullptr, &widget) + 2,
+      0};
+}
+
+}  // namespace
+
+ButtonBinder::ButtonBinder(const BinderPlace& place, QAbstractButton* button)
+    : ControlBinder(place), button_(button) {
+  QObject::connect(button_, &QAbstractButton::clicked, button_,
+                   [this] { Run([this](DialogSession& session) { session.Click(id()); }); });
+}
+
+void ButtonBinder::ShowState(const ControlView& view) {
+  const QString label = FromUtf8(view.text);
+  if (label_ != label) {
+    label_ = label;
+    button_->setAccessibleName(label_.simplified());
+    ShowLabel();
+  }
+  button_->setChecked(view.checked);
+}
+
+QSize ButtonBinder::Needed(const ControlView& view, QSize offered) const {
+  const QSize around = Surroundings();
+  return NeededSize(FromUtf8(view.text), button_->font(), offered - around) + around;
+}
+
+void ButtonBinder::Arrange(const ControlView& view, const DialogScale& scale) {
+  ControlBinder::Arrange(view, scale);
+  ShowLabel();
+}
+
+void ButtonBinder::ShowLabel() {
+  const QSize room = button_->size() - Surroundings();
+  const bool may_break = room.height() >= 2 * button_->fontMetrics().height();
+  button_->setText(Literal(may_break ? BreakLines(label_, button_->font(), room.width()) : label_));
+}
+
+PushButtonBinder::PushButtonBinder(const BinderPlace& place, bool stays_down)
+    : ButtonBinder(place, new QPushButton(place.parent)),
+      push_button_(static_cast<QPushButton*>(widget())) {
+  push_button_->setAutoDefault(false);
+  push_button_->setCheckable(stays_down);
+}
+
+void PushButtonBinder::ShowState(const ControlView& view) {
+  ButtonBinder::ShowState(view);
+  push_button_->setDefault(view.is_default);
+}
+
+QSize PushButtonBinder::Surroundings() const {
+  const int frame =
+      push_button_->style()->pixelMetric(QStyle::PM_DefaultFrameWidth, nullptr, push_button_);
+  return {2 * frame + 6, 2 * frame + 2};
+}
+
+RadioButtonBinder::RadioButtonBinder(const BinderPlace& place, QButtonGroup* group)
+    : ButtonBinder(place, new QRadioButton(place.parent)) {
+  group->addButton(static_cast<QRadioButton*>(widget()));
+}
+
+void RadioButtonBinder::ShowState(const ControlView& view) {
+  // An exclusive group can't be told that none of its buttons is on.
+  QButtonGroup* group = static_cast<QRadioButton*>(widget())->group();
+  group->setExclusive(false);
+  ButtonBinder::ShowState(view);
+  group->setExclusive(true);
+}
+
+QSize RadioButtonBinder::Surroundings() const {
+  return IndicatorRoom(*widget(), QStyle::PM_ExclusiveIndicatorWidth,
+                       QStyle::PM_RadioButtonLabelSpacing);
+}
+
+CheckBoxBinder::CheckBoxBinder(const BinderPlace& place)
+    : ButtonBinder(place, new QCheckBox(place.parent)) {}
+
+QSize CheckBoxBinder::Surroundings() const {
+  return IndicatorRoom(*widget(), QStyle::PM_IndicatorWidth, QStyle::PM_CheckBoxLabelSpacing);
+}
+
+SwatchBinder::SwatchBinder(const BinderPlace& place)
+    : ControlBinder(place), button_(new SwatchButton(place.parent)) {
+  QObject::connect(button_, &QAbstractButton::clicked, button_,
+                   [this] { Run([this](DialogSession& session) { session.Click(id()); }); });
+}
+
+void SwatchBinder::ShowState(const ControlView& view) { button_->ShowSwatch(view.swatch); }
+
+void SwatchBinder::SetCaption(const QString& caption) { button_->SetCaption(caption); }
+
+}  // namespace orreryui

@@ -1,0 +1,141 @@
+#include "front_ends/qt/control_pane.h"
+
+#include "front_ends/qt/make_binder.h"
+#include "front_ends/qt/tab_binder.h"
+#include "front_ends/qt/widget_text.h"
+
+namespace orreryui {
+namespace {
+
+constexpr double kGrowthStep = 1.02;
+
+bool TakesCaption(ControlKind kind) {
+  switch (kind) {
+    case ControlKind::kSwatch:
+    case ControlKind::kEdit:
+    case ControlKind::kMultiLineEdit:
+    case ControlKind::kComboBox:
+    case ControlKind::kSimpleComboBox:
+    case ControlKind::kListBox:
+    case ControlKind::kReportList:
+    case ControlKind::kTab:
+      return true;
+    default:
+      return false;
+  }
+}
+
+}  // namespace
+
+ControlPane::ControlPane(DialogSession& session, PaneFrame& frame, QWidget* parent)
+    : QWidget(parent), session_(session), frame_(frame), filter_(*this) {}
+
+void ControlPane::Build() {
+  frame_.Quietly([this] {
+    for (int index = 0; index < session_.ControlCount(); ++index) AddControl(index);
+    SetCaptions();
+  });
+}
+
+void ControlPane::AddControl(int index) {
+  const ControlView view = session_.Control(index);
+  const BinderPlace place{*this, this, index, view.id};
+  if (view.kind == ControlKind::kRadioButton && (view.starts_group || radio_group_ == nullptr)) {
+    radio_group_ = new QButtonGroup(this);
+  }
+  if (view.kind == ControlKind::kTab) {
+    binders_.push_back(std::make_unique<TabBinder>(place, session_, frame_));
+  } else {
+    binders_.push_back(MakeBinder(place, view.kind, radio_group_));
+  }
+  ControlBinder& binder = *binders_.back();
+  if (view.id != kNoControlId) binder.widget()->setObjectName(QString::number(view.id));
+  const bool breaks_lines = view.kind == ControlKind::kMultiLineEdit;
+  for (QWidget* widget : binder.FocusWidgets()) filter_.Watch(widget, index, view.id, breaks_lines);
+  binder.Show(view);
+}
+
+void ControlPane::SetCaptions() {
+  // A box is named by the fixed text before it; boxes that follow one another share that text.
+  QString caption;
+  for (int index = 0; index < int(binders_.size()); ++index) {
+    const ControlView view = session_.Control(index);
+    if (view.kind == ControlKind::kStatic && !view.text.empty()) {
+      caption = FromUtf8(view.text).simplified();
+    } else if (TakesCaption(view.kind)) {
+      binders_[std::size_t(index)]->SetCaption(caption);
+    }
+  }
+}
+
+DialogScale ControlPane::Grow(DialogScale scale) const {
+  bool wider = false;
+  bool higher = false;
+  for (int index = 0; index < int(binders_.size()); ++index) {
+    const ControlView view = session_.Control(index);
+    const QSize offered = scale.ToPixels(view.place).size();
+    const QSize needed = binders_[std::size_t(index)]->Needed(view, offered);
+    wider = wider || needed.width() > offered.width();
+    higher = higher || needed.height() > offered.height();
+  }
+  if (wider) scale.x *= kGrowthStep;
+  if (higher) scale.y *= kGrowthStep;
+  return scale;
+}
+
+void ControlPane::Arrange(const DialogScale& scale) {
+  for (int index = 0; index < int(binders_.size()); ++index) {
+    binders_[std::size_t(index)]->Arrange(session_.Control(index), scale);
+  }
+}
+
+QList<QWidget*> ControlPane::FocusWidgets() const {
+  QList<QWidget*> widgets;
+  for (const auto& binder : binders_) widgets << binder->FocusWidgets();
+  return widgets;
+}
+
+QWidget* ControlPane::FocusWidgetOf(int id) const {
+  if (id == kNoControlId) return nullptr;
+  const QString name = QString::number(id);
+  for (QWidget* widget : findChildren<QWidget*>(name)) {
+    if (widget->isEnabled() && widget->isVisibleTo(window())) return widget;
+  }
+  return nullptr;
+}
+
+void ControlPane::AfterGesture() {
+  frame_.Quietly([this] {
+    for (const auto& binder : binders_) binder->AfterGesture();
+  });
+}
+
+void ControlPane::Run(int index, const Gesture& gesture) {
+  if (frame_.quiet() || frame_.Ended()) return;
+  gesture(session_);
+  if (!frame_.Ended()) ShowAfterGesture(index);
+  frame_.GestureDone();
+}
+
+void ControlPane::ShowAfterGesture(int index) {
+  ShowControl(index);
+  if (session_.Control(index).kind != ControlKind::kRadioButton) return;
+  for (int other = 0; other < int(binders_.size()); ++other) {
+    if (session_.Control(other).kind == ControlKind::kRadioButton) ShowControl(other);
+  }
+}
+
+void ControlPane::ShowControl(int index) {
+  frame_.Quietly([this, index] { binders_[std::size_t(index)]->Show(session_.Control(index)); });
+}
+
+void ControlPane::Refresh(const std::vector<int>& indices) {
+  for (int index : indices) {
+    if (index >= 0 && index < int(binders_.size())) ShowControl(index);
+  }
+  frame_.ContentsChanged();
+}
+
+void ControlPane::RefreshLayout() { frame_.ContentsChanged(); }
+
+}  // namespace orreryui

@@ -1,0 +1,63 @@
+// The controls of one session, on one widget: the inside of a dialog, or a page of a tab control.
+#ifndef ORRERYUI_FRONT_ENDS_QT_CONTROL_PANE_H_
+#define ORRERYUI_FRONT_ENDS_QT_CONTROL_PANE_H_
+
+#include <QButtonGroup>
+#include <QWidget>
+#include <memory>
+#include <vector>
+
+#include "front_ends/qt/control_binder.h"
+#include "front_ends/qt/input_filter.h"
+#include "front_ends/qt/pane_frame.h"
+#include "platform/front_end.h"
+
+namespace orreryui {
+
+class ControlPane : public QWidget, public DialogWindow, private GestureRunner {
+ public:
+  // Session and frame outlive the pane.
+  ControlPane(DialogSession& session, PaneFrame& frame, QWidget* parent);
+
+  // Makes the widgets. The session has been started.
+  void Build();
+
+  // As NeededSize of the controls: the scale, at least `scale`, that one more step towards fitting
+  // all texts takes. The same scale if all fit.
+  DialogScale Grow(DialogScale scale) const;
+
+  void Arrange(const DialogScale& scale);
+
+  QList<QWidget*> FocusWidgets() const;
+
+  // The widget of the control, also on a page of a tab control, that can take the focus now; null
+  // if there is none.
+  QWidget* FocusWidgetOf(int id) const;
+
+  // To be called when a gesture has run on any pane of the window.
+  void AfterGesture();
+
+  // DialogWindow, for a pane that is a page.
+  void Refresh(const std::vector<int>& indices) override;
+  void RefreshLayout() override;
+
+ private:
+  void Run(int index, const Gesture& gesture) override;
+  void PressEnter() override { frame_.PressEnter(); }
+  void PressEscape() override { frame_.PressEscape(); }
+
+  void AddControl(int index);
+  void SetCaptions();
+  void ShowControl(int index);
+  void ShowAfterGesture(int index);
+
+  DialogSession& session_;
+  PaneFrame& frame_;
+  InputFilter filter_;
+  std::vector<std::unique_ptr<ControlBinder>> binders_;  // by index
+  QButtonGroup* radio_group_ = nullptr;                  // the last one begun
+};
+
+}  // namespace orreryui
+
+#endif  // ORRERYUI_FRONT_ENDS_QT_CONTROL_PANE_H_

@@ -1,0 +1,34 @@
+#include "front_ends/qt/dialog_scale.h"
+
+#include <QFontMetricsF>
+#include <QString>
+#include <algorithm>
+#include <cmath>
+
+#include "front_ends/qt/text_fit.h"
+
+namespace orreryui {
+
+DialogScale DialogScale::Of(const QFont& font) {
+  const QString latin = QStringLiteral("ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz");
+  const double average = QFontMetricsF(font).horizontalAdvance(latin) / double(latin.size());
+  const double full_width = TextSize(QStringLiteral("国"), font).width();
+  return {std::max(average / 4, full_width / 8), double(LineHeight(font)) / 8};
+}
+
+QPoint DialogScale::ToPixels(int x_units, int y_units) const {
+  return {int(std::lround(x_units * x)), int(std::lround(y_units * y))};
+}
+
+QRect DialogScale::ToPixels(const DialogRect& place) const {
+  const QPoint corner = ToPixels(place.x, place.y);
+  const QPoint end = ToPixels(place.x + place.width, place.y + place.height);
+  return {corner, QSize(end.x() - corner.x(), end.y() - corner.y())};
+}
+
+int DialogScale::ColumnToPixels(int width) const {
+  // On the screen for which columns are measured, a dialog unit is one and a half pixels wide.
+  return int(std::lround(width * x / 1.5));
+}
+
+}  // namespace orreryui

@@ -1,0 +1,28 @@
+// Dialog units and pixels.
+#ifndef ORRERYUI_FRONT_ENDS_QT_DIALOG_SCALE_H_
+#define ORRERYUI_FRONT_ENDS_QT_DIALOG_SCALE_H_
+
+#include <QFont>
+#include <QRect>
+
+#include "platform/front_end.h"
+
+namespace orreryui {
+
+// Pixels a dialog unit, across and down. One scale holds for a whole dialog, so that its parts keep
+// their proportions.
+struct DialogScale {
+  double x = 0;
+  double y = 0;
+
+  // The font's own scale: a full-width character is at most 8 units wide, a line 8 units high.
+  static DialogScale Of(const QFont& font);
+
+  QPoint ToPixels(int x_units, int y_units) const;
+  QRect ToPixels(const DialogRect& place) const;
+  int ColumnToPixels(int width) const;  // width of a list's column at scale 1
+};
+
+}  // namespace orreryui
+
+#endif  // ORRERYUI_FRONT_ENDS_QT_DIALOG_SCALE_H_

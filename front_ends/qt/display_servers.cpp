@@ -1,0 +1,103 @@
+#include "front_ends/qt/display_servers.h"
+
+#include <dlfcn.h>
+#include <poll.h>
+#include <pthread.h>
+#include <sys/socket.h>
+#include <sys/un.h>
+#include <unistd.h>
+
+#include <array>
+#include <chrono>
+#include <csignal>
+#include <cstdint>
+#include <cstdlib>
+#include <cstring>
+#include <future>
+#include <string>
+#include <thread>
+
+namespace orreryui {
+namespace {
+
+constexpr std::chrono::seconds kPatience(3);
+
+// Connects by the library that Qt itself uses, which knows about names and authorities.
+bool ConnectToXServer() {
+  void* const library = dlopen("libxcb.so.1", RTLD_NOW | RTLD_LOCAL);
+  if (library == nullptr) return false;
+  using Connect = void*(const char*, int*);
+  using HasError = int(void*);
+  using Disconnect = void(void*);
+  auto* const connect = reinterpret_cast<Connect*>(dlsym(library, "xcb_connect"));
+  auto* const has_error = reinterpret_cast<HasError*>(dlsym(library, "xcb_connection_has_error"));
+  auto* const disconnect = reinterpret_cast<Disconnect*>(dlsym(library, "xcb_disconnect"));
+  if (connect == nullptr || has_error == nullptr || disconnect == nullptr) return false;
+  void* const connection = connect(nullptr, nullptr);
+  const bool answered = has_error(connection) == 0;
+  disconnect(connection);
+  return answered;
+}
+
+// Runs ConnectToXServer on a thread that takes none of the host's signals.
+std::future<bool> StartConnecting() {
+  std::packaged_task<bool()> task(ConnectToXServer);
+  std::future<bool> answer = task.get_future();
+  sigset_t all;
+  sigset_t before;
+  sigfillset(&all);
+  pthread_sigmask(SIG_SETMASK, &all, &before);
+  std::thread(std::move(task)).detach();
+  pthread_sigmask(SIG_SETMASK, &before, nullptr);
+  return answer;
+}
+
+std::string WaylandSocketPath() {
+  const char* const display = std::getenv("WAYLAND_DISPLAY");
+  const std::string name = display != nullptr && *display != 0 ? display : "wayland-0";
+  if (name.front() == '/') return name;
+  const char* const folder = std::getenv("XDG_RUNTIME_DIR");
+  return folder != nullptr ? std::string(folder) + '/' + name : std::string();
+}
+
+// Asks the compositor to say that it has come this far (the request `sync` of the object 1).
+bool WaylandAnswersOn(int socket_number) {
+  const std::array<std::uint32_t, 3> sync = {1, 12u << 16, 2};
+  if (send(socket_number, sync.data(), sizeof sync, MSG_NOSIGNAL) != ssize_t(sizeof sync)) {
+    return false;
+  }
+  pollfd wait{socket_number, POLLIN, 0};
+  const auto patience = std::chrono::duration_cast<std::chrono::milliseconds>(kPatience).count();
+  if (poll(&wait, 1, int(patience)) != 1) return false;
+  char first = 0;
+  return recv(socket_number, &first, 1, 0) == 1;
+}
+
+}  // namespace
+
+bool XServerAnswers() {
+  // Never destroyed: waiting for a server that hangs must not hold up the end of the process.
+  static auto& pending = *new std::future<bool>;
+  const char* const display = std::getenv("DISPLAY");
+  if (display == nullptr || *display == 0) return false;
+  if (!pending.valid()) pending = StartConnecting();
+  return pending.wait_for(kPatience) == std::future_status::ready && pending.get();
+}
+
+bool WaylandServerAnswers() {
+  if (std::getenv("WAYLAND_SOCKET") != nullptr) return true;
+  const std::string path = WaylandSocketPath();
+  sockaddr_un address{};
+  address.sun_family = AF_UNIX;
+  if (path.empty() || path.size() >= sizeof address.sun_path) return false;
+  std::memcpy(address.sun_path, path.c_str(), path.size() + 1);
+  const int number = socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0);
+  if (number < 0) return false;
+  const bool answered =
+      connect(number, reinterpret_cast<const sockaddr*>(&address), sizeof address) == 0 &&
+      WaylandAnswersOn(number);
+  close(number);
+  return answered;
+}
+
+}  // namespace orreryui

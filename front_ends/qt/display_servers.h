@@ -1,0 +1,15 @@
+// Whether a display server is alive and lets this process in.
+#ifndef ORRERYUI_FRONT_ENDS_QT_DISPLAY_SERVERS_H_
+#define ORRERYUI_FRONT_ENDS_QT_DISPLAY_SERVERS_H_
+
+namespace orreryui {
+
+// Both look where the environment says, and give a server that hangs a few seconds. They leave no
+// connection open, except that a connection to an X server that hangs stays until that server
+// answers; meanwhile the answer is false.
+bool XServerAnswers();
+bool WaylandServerAnswers();
+
+}  // namespace orreryui
+
+#endif  // ORRERYUI_FRONT_ENDS_QT_DISPLAY_SERVERS_H_

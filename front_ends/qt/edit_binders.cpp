@@ -1,0 +1,85 @@
+#include "front_ends/qt/edit_binders.h"
+
+#include <QSignalBlocker>
+
+#include "front_ends/qt/refusal.h"
+#include "front_ends/qt/widget_text.h"
+
+namespace orreryui {
+
+TypedLine::TypedLine(QLineEdit* edit, int id) : edit_(edit), id_(id) {}
+
+void TypedLine::Show(const QString& text) {
+  if (!typing_ && edit_->text() != text) edit_->setText(text);
+}
+
+void TypedLine::Report(const std::function<void(const GestureRunner::Gesture&)>& run) {
+  TypedText typed{ToUtf8(edit_->text()), {}};
+  typing_ = true;
+  run([&](DialogSession& session) { typed = session.Type(id_, typed.text); });
+  typing_ = false;
+
+  const QString text = FromUtf8(typed.text);
+  if (text != edit_->text()) {
+    const TextChange change = SmallestChange(edit_->text(), text, edit_->cursorPosition());
+    const QSignalBlocker blocker(edit_);
+    edit_->setSelection(change.begin, change.length);
+    edit_->insert(change.with);
+  }
+  TellRefusal(*edit_, typed.refused);
+}
+
+LineEditBinder::LineEditBinder(const BinderPlace& place)
+    : ControlBinder(place), edit_(new QLineEdit(place.parent)), line_(edit_, place.id) {
+  QObject::connect(edit_, &QLineEdit::textEdited, edit_, [this] {
+    line_.Report([this](const GestureRunner::Gesture& gesture) { Run(gesture); });
+  });
+}
+
+void LineEditBinder::ShowState(const ControlView& view) {
+  edit_->setAlignment((view.right_aligned ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
+  line_.Show(FromUtf8(view.text));
+}
+
+QSize LineEditBinder::Needed(const ControlView&, QSize offered) const {
+  return offered.expandedTo({0, edit_->minimumSizeHint().height()});
+}
+
+TextEditBinder::TextEditBinder(const BinderPlace& place)
+    : ControlBinder(place), edit_(new QPlainTextEdit(place.parent)) {
+  edit_->setTabChangesFocus(true);
+  edit_->setWordWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+  QObject::connect(edit_, &QPlainTextEdit::textChanged, edit_, [this] { Report(); });
+}
+
+void TextEditBinder::ShowState(const ControlView& view) {
+  edit_->setVerticalScrollBarPolicy(view.tall_scroll_bar ? Qt::ScrollBarAlwaysOn
+                                                         : Qt::ScrollBarAsNeeded);
+  const QString text = FromLines(view.text);
+  if (typing_ || text == edit_->toPlainText()) return;
+  known_ = text;
+  edit_->setPlainText(text);
+}
+
+void TextEditBinder::Report() {
+  const QString text = edit_->toPlainText();
+  if (typing_ || text == known_) return;
+  typing_ = true;
+  TypedText typed{ToLines(text), {}};
+  Run([&](DialogSession& session) { typed = session.Type(id(), typed.text); });
+  known_ = FromLines(typed.text);
+  if (known_ != text) Replace(known_);
+  typing_ = false;
+  TellRefusal(*edit_, typed.refused);
+}
+
+void TextEditBinder::Replace(const QString& text) {
+  QTextCursor cursor = edit_->textCursor();
+  const TextChange change = SmallestChange(edit_->toPlainText(), text, cursor.position());
+  cursor.setPosition(change.begin);
+  cursor.setPosition(change.begin + change.length, QTextCursor::KeepAnchor);
+  cursor.insertText(change.with);
+  edit_->setTextCursor(cursor);
+}
+
+}  // namespace orreryui

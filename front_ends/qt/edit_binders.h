@@ -1,0 +1,66 @@
+// Edit boxes of one line and of many.
+#ifndef ORRERYUI_FRONT_ENDS_QT_EDIT_BINDERS_H_
+#define ORRERYUI_FRONT_ENDS_QT_EDIT_BINDERS_H_
+
+#include <QLineEdit>
+#include <QPlainTextEdit>
+
+#include "front_ends/qt/control_binder.h"
+
+namespace orreryui {
+
+// A line edit as part of a control: reports what is typed, and leaves out of the box what the
+// session refuses. Edit boxes and the edit fields of combo boxes share it.
+class TypedLine {
+ public:
+  // Reports for the control `id`. The edit isn't owned.
+  TypedLine(QLineEdit* edit, int id);
+
+  // Shows the model's text, unless the user is typing at this moment.
+  void Show(const QString& text);
+
+  // To be called when the user has edited the line. `run` runs a gesture.
+  void Report(const std::function<void(const GestureRunner::Gesture&)>& run);
+
+ private:
+  QLineEdit* edit_;
+  int id_;
+  bool typing_ = false;
+};
+
+class LineEditBinder : public ControlBinder {
+ public:
+  explicit LineEditBinder(const BinderPlace& place);
+  QWidget* widget() const override { return edit_; }
+  QSize Needed(const ControlView& view, QSize offered) const override;
+  void SetCaption(const QString& caption) override { edit_->setAccessibleName(caption); }
+
+ protected:
+  void ShowState(const ControlView& view) override;
+
+ private:
+  QLineEdit* edit_;
+  TypedLine line_;
+};
+
+class TextEditBinder : public ControlBinder {
+ public:
+  explicit TextEditBinder(const BinderPlace& place);
+  QWidget* widget() const override { return edit_; }
+  void SetCaption(const QString& caption) override { edit_->setAccessibleName(caption); }
+
+ protected:
+  void ShowState(const ControlView& view) override;
+
+ private:
+  void Report();
+  void Replace(const QString& text);
+
+  QPlainTextEdit* edit_;
+  QString known_;  // the text that the session knows
+  bool typing_ = false;
+};
+
+}  // namespace orreryui
+
+#endif  // ORRERYUI_FRONT_ENDS_QT_EDIT_BINDERS_H_

@@ -1,0 +1,40 @@
+// The rows of list boxes, and of the lists in combo boxes.
+#ifndef ORRERYUI_FRONT_ENDS_QT_LIST_ROWS_H_
+#define ORRERYUI_FRONT_ENDS_QT_LIST_ROWS_H_
+
+#include <QListWidget>
+#include <QStringList>
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "front_ends/qt/gesture_runner.h"
+#include "front_ends/qt/picking_view.h"
+#include "platform/front_end.h"
+
+namespace orreryui {
+
+// The texts of a row's first column; a row without columns counts as empty.
+QStringList FirstColumn(const std::vector<std::vector<std::string>>& rows);
+
+// Shows rows and selection of the control in the list.
+void ShowRows(QListWidget* list, const ControlView& view);
+
+// Selects a row of the view and scrolls to it, if it isn't the selected one. -1 selects none.
+void SelectRow(QAbstractItemView* view, int row);
+
+// Turns picks and double clicks in the view into gestures on the control `id`.
+template <class View>
+void ReportPicks(PickingView<View>* view, std::function<void(const GestureRunner::Gesture&)> run,
+                 int id) {
+  view->on_pick = [run, id](int row) {
+    run([=](DialogSession& session) { session.Pick(id, row); });
+  };
+  view->on_double_click = [run, id](int row, int column) {
+    run([=](DialogSession& session) { session.DoubleClick(id, row, column); });
+  };
+}
+
+}  // namespace orreryui
+
+#endif  // ORRERYUI_FRONT_ENDS_QT_LIST_ROWS_H_

@@ -1,0 +1,34 @@
+// What the panes of a dialog need of the window that they stand in.
+#ifndef ORRERYUI_FRONT_ENDS_QT_PANE_FRAME_H_
+#define ORRERYUI_FRONT_ENDS_QT_PANE_FRAME_H_
+
+namespace orreryui {
+
+class PaneFrame {
+ public:
+  virtual ~PaneFrame() = default;
+
+  virtual bool Ended() const = 0;
+  virtual void GestureDone() = 0;  // to be called after each gesture on a pane
+  virtual void PressEnter() = 0;
+  virtual void PressEscape() = 0;
+  virtual void ContentsChanged() = 0;  // a pane has other controls, texts or focus now
+
+  // Whether widgets are being changed on the program's behalf, so that their signals and the moves
+  // of the focus mean nothing.
+  bool quiet() const { return quiet_ > 0; }
+
+  template <typename Function>
+  void Quietly(Function function) {
+    ++quiet_;
+    function();
+    --quiet_;
+  }
+
+ private:
+  int quiet_ = 0;
+};
+
+}  // namespace orreryui
+
+#endif  // ORRERYUI_FRONT_ENDS_QT_PANE_FRAME_H_

@@ -1,0 +1,85 @@
+// Item views that say which row the user picked, once the view itself is done with the event.
+#ifndef ORRERYUI_FRONT_ENDS_QT_PICKING_VIEW_H_
+#define ORRERYUI_FRONT_ENDS_QT_PICKING_VIEW_H_
+
+#include <QKeyEvent>
+#include <QListWidget>
+#include <QMouseEvent>
+#include <QTreeWidget>
+#include <functional>
+
+namespace orreryui {
+
+// A list or tree widget. A pick is reported when the mouse button comes up, also on the row that
+// was selected already, and when a key has changed the row; a double click when the button comes up
+// for the second time.
+template <class View>
+class PickingView : public View {
+ public:
+  using View::View;
+
+  std::function<void(int row)> on_pick;
+  std::function<void(int row, int column)> on_double_click;
+
+  // Makes the keys that move through a list work in `edit`, which keeps the focus.
+  void TakeArrowKeysOf(QWidget* edit) { edit->installEventFilter(this); }
+
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    if (event->type() != QEvent::KeyPress) return View::eventFilter(watched, event);
+    auto* key = static_cast<QKeyEvent*>(event);
+    switch (key->key()) {
+      case Qt::Key_Up:
+      case Qt::Key_Down:
+      case Qt::Key_PageUp:
+      case Qt::Key_PageDown:
+        keyPressEvent(key);
+        return true;
+      default:
+        return false;
+    }
+  }
+
+ protected:
+  void mousePressEvent(QMouseEvent* event) override {
+    pressed_ = event->button() == Qt::LeftButton && this->indexAt(event->pos()).isValid();
+    double_clicked_ = false;
+    View::mousePressEvent(event);
+  }
+
+  void mouseDoubleClickEvent(QMouseEvent* event) override {
+    View::mouseDoubleClickEvent(event);
+    pressed_ = event->button() == Qt::LeftButton && this->indexAt(event->pos()).isValid();
+    double_clicked_ = pressed_;
+  }
+
+  void mouseReleaseEvent(QMouseEvent* event) override {
+    View::mouseReleaseEvent(event);
+    if (!pressed_ || event->button() != Qt::LeftButton) return;
+    pressed_ = false;
+    const QModelIndex current = this->currentIndex();
+    if (!current.isValid()) return;
+    if (double_clicked_) {
+      on_double_click(current.row(), current.column());
+    } else {
+      on_pick(current.row());
+    }
+  }
+
+  void keyPressEvent(QKeyEvent* event) override {
+    const int before = this->currentIndex().row();
+    View::keyPressEvent(event);
+    const int after = this->currentIndex().row();
+    if (after != before && after >= 0) on_pick(after);
+  }
+
+ private:
+  bool pressed_ = false;         // on a row
+  bool double_clicked_ = false;  // this press is the second one
+};
+
+using PickingList = PickingView<QListWidget>;
+using PickingTree = PickingView<QTreeWidget>;
+
+}  // namespace orreryui
+
+#endif  // ORRERYUI_FRONT_ENDS_QT_PICKING_VIEW_H_

@@ -1,0 +1,231 @@
+#include "front_ends/qt/qt_dialog.h"
+
+#include <QCloseEvent>
+#include <QCursor>
+#include <QGuiApplication>
+#include <QKeyEvent>
+#include <QScreen>
+#include <QStyle>
+#include <QTimer>
+#include <QWindow>
+#include <algorithm>
+
+#include "front_ends/qt/widget_text.h"
+
+namespace orreryui {
+namespace {
+
+constexpr double kMostGrowth = 1.6;
+
+// The frame that a desktop draws around a window, in pixels; not known before it is shown.
+constexpr QSize kWindowFrame(16, 48);
+
+QRect Inside(QRect window, const QRect& area) {
+  window.moveRight(std::min(window.right(), area.right()));
+  window.moveBottom(std::min(window.bottom(), area.bottom()));
+  window.moveLeft(std::max(window.left(), area.left()));
+  window.moveTop(std::max(window.top(), area.top()));
+  return window;
+}
+
+}  // namespace
+
+QtDialog::QtDialog(DialogSession& session, QWidget* owner) : QDialog(owner), session_(session) {
+  setAttribute(Qt::WA_QuitOnClose, false);
+  setWindowModality(Qt::ApplicationModal);
+  setLocale(QLocale(QLocale::Japanese, QLocale::Japan));
+}
+
+QtDialog::~QtDialog() {
+  Quietly([this] {
+    hide();
+    delete pane_;
+  });
+}
+
+void QtDialog::RunModally() {
+  Quietly([this] { Build(); });
+  QWindow* const host = parentWidget() == nullptr ? QGuiApplication::focusWindow() : nullptr;
+  create();
+  if (host != nullptr) windowHandle()->setTransientParent(host);
+  windowHandle()->installEventFilter(this);
+  Place();
+  Quietly([this] {
+    ShowFocus();
+    show();
+  });
+  activateWindow();
+  Paint();
+  if (!Ended()) loop_.exec(QEventLoop::DialogExec);
+  // The program quits: the dialog ends as if its window had been closed.
+  if (!Ended()) session_.Escape();
+}
+
+void QtDialog::Build() {
+  setObjectName(QString::number(session_.Layout().number));
+  pane_ = new ControlPane(session_, *this, this);
+  pane_->Build();
+  scale_ = DialogScale::Of(font());
+  most_ = {scale_.x * kMostGrowth, scale_.y * kMostGrowth};
+  Arrange();
+}
+
+void QtDialog::Arrange() {
+  const DialogLayout layout = session_.Layout();
+  setWindowTitle(FromUtf8(layout.title));
+  GrowToFit();
+  const QPoint corner = scale_.ToPixels(layout.width, layout.height);
+  const QSize size(corner.x(), corner.y());
+  pane_->setFixedSize(size);
+  pane_->Arrange(scale_);
+  FitIntoScreen(size);
+  OrderTabs();
+}
+
+void QtDialog::GrowToFit() {
+  for (DialogScale grown = pane_->Grow(scale_);
+       (grown.x > scale_.x && grown.x < most_.x) || (grown.y > scale_.y && grown.y < most_.y);
+       grown = pane_->Grow(scale_)) {
+    scale_ = {std::min(grown.x, most_.x), std::min(grown.y, most_.y)};
+  }
+}
+
+void QtDialog::FitIntoScreen(QSize size) {
+  const QSize room = AvailableArea().size() - kWindowFrame;
+  if (size.width() <= room.width() && size.height() <= room.height() && scroll_area_ == nullptr) {
+    setFixedSize(size);
+    return;
+  }
+  if (scroll_area_ == nullptr) {
+    scroll_area_ = new QScrollArea(this);
+    scroll_area_->setFrameShape(QFrame::NoFrame);
+    scroll_area_->setFocusPolicy(Qt::NoFocus);
+    scroll_area_->setWidget(pane_);
+  }
+  const int bar = style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+  setFixedSize((size + QSize(bar, bar)).boundedTo(room));
+  scroll_area_->setGeometry(rect());
+}
+
+void QtDialog::OrderTabs() {
+  const QList<QWidget*> widgets = pane_->FocusWidgets();
+  for (int next = 1; next < widgets.size(); ++next) setTabOrder(widgets[next - 1], widgets[next]);
+}
+
+void QtDialog::ShowFocus() {
+  QWidget* const wanted = pane_->FocusWidgetOf(session_.Layout().focus);
+  if (wanted == nullptr || wanted->hasFocus()) return;
+  QWidget* const proxy = wanted->focusProxy();
+  if (proxy != nullptr && proxy->hasFocus()) return;
+  wanted->setFocus(Qt::TabFocusReason);
+}
+
+QRect QtDialog::AvailableArea() const {
+  const QScreen* screen = parentWidget() != nullptr ? parentWidget()->screen() : nullptr;
+  if (screen == nullptr) screen = QGuiApplication::screenAt(QCursor::pos());
+  if (screen == nullptr) screen = QGuiApplication::primaryScreen();
+  return screen->availableGeometry();
+}
+
+void QtDialog::Place() {
+  placed_ = session_.Layout();
+  const QRect area = AvailableArea();
+  const QWindow* const host = windowHandle()->transientParent();
+  const QRect owner = host != nullptr ? host->frameGeometry() : area;
+  QRect window(QPoint(), size());
+  switch (placed_.placement) {
+    case Placement::kAtPosition:
+      window.moveTopLeft(owner.topLeft() + scale_.ToPixels(placed_.x, placed_.y));
+      break;
+    case Placement::kCentred:
+      window.moveCenter(owner.center());
+      break;
+    case Placement::kOnPointer:
+      window.moveCenter(QCursor::pos());
+      break;
+    case Placement::kAtPixel:
+      window.moveTopLeft({placed_.x, placed_.y});
+      break;
+  }
+  move(Inside(QRect(window.topLeft(), window.size() + kWindowFrame), area).topLeft());
+}
+
+void QtDialog::Refresh(const std::vector<int>& indices) {
+  if (pane_ != nullptr) pane_->Refresh(indices);
+}
+
+void QtDialog::RefreshLayout() {
+  if (pane_ == nullptr) return;
+  ContentsChanged();
+  const DialogLayout now = session_.Layout();
+  const bool moved = now.placement != placed_.placement || now.x != placed_.x || now.y != placed_.y;
+  if (moved && isVisible()) Place();
+}
+
+void QtDialog::ContentsChanged() {
+  if (scale_.x <= 0 || Ended()) return;
+  Quietly([this] {
+    Arrange();
+    if (isVisible()) ShowFocus();
+  });
+}
+
+void QtDialog::GestureDone() {
+  if (Ended()) {
+    loop_.quit();
+  } else {
+    pane_->AfterGesture();
+  }
+}
+
+void QtDialog::PressEnter() {
+  if (Ended()) return;
+  session_.Enter();
+  GestureDone();
+}
+
+void QtDialog::PressEscape() {
+  if (Ended()) return;
+  session_.Escape();
+  GestureDone();
+}
+
+void QtDialog::Paint() {
+  if (Ended()) return;
+  session_.Paint();
+  GestureDone();
+}
+
+void QtDialog::keyPressEvent(QKeyEvent* event) {
+  if (event->isAutoRepeat()) return;
+  switch (event->key()) {
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+      PressEnter();
+      break;
+    case Qt::Key_Escape:
+      PressEscape();
+      break;
+    default:
+      event->ignore();
+  }
+}
+
+void QtDialog::closeEvent(QCloseEvent* event) {
+  PressEscape();
+  event->setAccepted(Ended());
+}
+
+bool QtDialog::eventFilter(QObject* watched, QEvent* event) {
+  if (watched == windowHandle() && event->type() == QEvent::Expose) {
+    if (!windowHandle()->isExposed()) {
+      covered_ = true;
+    } else if (covered_) {
+      covered_ = false;
+      QTimer::singleShot(0, this, [this] { Paint(); });
+    }
+  }
+  return QDialog::eventFilter(watched, event);
+}
+
+}  // namespace orreryui

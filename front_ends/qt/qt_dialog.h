@@ -1,0 +1,63 @@
+// The window of one running dialog.
+#ifndef ORRERYUI_FRONT_ENDS_QT_QT_DIALOG_H_
+#define ORRERYUI_FRONT_ENDS_QT_QT_DIALOG_H_
+
+#include <QDialog>
+#include <QEventLoop>
+#include <QScrollArea>
+
+#include "front_ends/qt/control_pane.h"
+#include "front_ends/qt/pane_frame.h"
+#include "platform/front_end.h"
+
+namespace orreryui {
+
+class QtDialog : public QDialog, public DialogWindow, private PaneFrame {
+ public:
+  // `owner` is the dialog that this one covers, or null. The session outlives the window.
+  QtDialog(DialogSession& session, QWidget* owner);
+  ~QtDialog() override;
+
+  // Shows the dialog, whose session has been started, until it has ended or the program quits.
+  void RunModally();
+
+  void Refresh(const std::vector<int>& indices) override;
+  void RefreshLayout() override;
+
+  void reject() override { PressEscape(); }
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override;
+  void closeEvent(QCloseEvent* event) override;
+
+ private:
+  bool Ended() const override { return session_.Ended(); }
+  void GestureDone() override;
+  void PressEnter() override;
+  void PressEscape() override;
+  void ContentsChanged() override;
+
+  void Build();
+  void Arrange();
+  void GrowToFit();
+  void FitIntoScreen(QSize size);
+  void OrderTabs();
+  void ShowFocus();
+  void Place();
+  QRect AvailableArea() const;
+  void Paint();
+
+  DialogSession& session_;
+  QEventLoop loop_;
+  ControlPane* pane_ = nullptr;
+  QScrollArea* scroll_area_ = nullptr;  // only where the screen is too small
+  DialogScale scale_;
+  DialogScale most_;  // the scale beyond which texts are cut instead
+  DialogLayout placed_;
+  bool covered_ = false;  // nothing of the window was to be seen since it was last drawn
+};
+
+}  // namespace orreryui
+
+#endif  // ORRERYUI_FRONT_ENDS_QT_QT_DIALOG_H_

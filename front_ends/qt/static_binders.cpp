@@ -1,0 +1,53 @@
+#include "front_ends/qt/static_binders.h"
+
+#include "front_ends/qt/text_fit.h"
+#include "front_ends/qt/widget_text.h"
+
+namespace orreryui {
+
+StaticBinder::StaticBinder(const BinderPlace& place)
+    : ControlBinder(place), label_(new QLabel(place.parent)) {
+  label_->setTextFormat(Qt::PlainText);
+  label_->setWordWrap(true);
+  label_->setIndent(0);
+}
+
+void StaticBinder::ShowState(const ControlView& view) {
+  label_->setAlignment((view.right_aligned ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
+  const QString text = FromLines(view.text);
+  if (label_->text() == text) return;
+  label_->setText(text);
+  ShowOverflow();
+}
+
+QSize StaticBinder::Needed(const ControlView& view, QSize offered) const {
+  return NeededSize(FromLines(view.text), label_->font(), offered);
+}
+
+void StaticBinder::Arrange(const ControlView& view, const DialogScale& scale) {
+  ControlBinder::Arrange(view, scale);
+  ShowOverflow();
+}
+
+void StaticBinder::ShowOverflow() {
+  const bool fits = NeededSize(label_->text(), label_->font(), label_->size()) == label_->size();
+  label_->setToolTip(fits ? QString() : label_->text().toHtmlEscaped());
+}
+
+GroupBoxBinder::GroupBoxBinder(const BinderPlace& place)
+    : ControlBinder(place), box_(new QGroupBox(place.parent)) {
+  // The frame stands behind the controls that it surrounds.
+  box_->setAttribute(Qt::WA_TransparentForMouseEvents);
+  box_->lower();
+}
+
+void GroupBoxBinder::ShowState(const ControlView& view) {
+  box_->setTitle(Literal(FromUtf8(view.text)));
+}
+
+QSize GroupBoxBinder::Needed(const ControlView& view, QSize offered) const {
+  constexpr int kMargins = 24;
+  return offered.expandedTo({TextSize(FromUtf8(view.text), box_->font()).width() + kMargins, 0});
+}
+
+}  // namespace orreryui

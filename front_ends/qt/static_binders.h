@@ -1,0 +1,44 @@
+// Fixed texts and frames.
+#ifndef ORRERYUI_FRONT_ENDS_QT_STATIC_BINDERS_H_
+#define ORRERYUI_FRONT_ENDS_QT_STATIC_BINDERS_H_
+
+#include <QGroupBox>
+#include <QLabel>
+
+#include "front_ends/qt/control_binder.h"
+
+namespace orreryui {
+
+// Plain text. A text that its rectangle can't hold shows itself whole in a tool tip.
+class StaticBinder : public ControlBinder {
+ public:
+  explicit StaticBinder(const BinderPlace& place);
+  QWidget* widget() const override { return label_; }
+  QSize Needed(const ControlView& view, QSize offered) const override;
+  void Arrange(const ControlView& view, const DialogScale& scale) override;
+
+ protected:
+  void ShowState(const ControlView& view) override;
+
+ private:
+  void ShowOverflow();
+
+  QLabel* label_;
+};
+
+class GroupBoxBinder : public ControlBinder {
+ public:
+  explicit GroupBoxBinder(const BinderPlace& place);
+  QWidget* widget() const override { return box_; }
+  QSize Needed(const ControlView& view, QSize offered) const override;
+
+ protected:
+  void ShowState(const ControlView& view) override;
+
+ private:
+  QGroupBox* box_;
+};
+
+}  // namespace orreryui
+
+#endif  // ORRERYUI_FRONT_ENDS_QT_STATIC_BINDERS_H_

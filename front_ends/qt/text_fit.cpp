@@ -1,0 +1,73 @@
+#include "front_ends/qt/text_fit.h"
+
+#include <QFontMetrics>
+#include <QStringList>
+#include <QTextLayout>
+#include <QTextOption>
+#include <algorithm>
+#include <cmath>
+
+namespace orreryui {
+namespace {
+
+// Lays out one paragraph, lines at most `width` pixels wide, and calls `line` for each.
+template <typename Function>
+void ForEachLine(const QString& paragraph, const QFont& font, qreal width, Function line) {
+  QTextOption option;
+  option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+  QTextLayout layout(paragraph, font);
+  layout.setTextOption(option);
+  layout.beginLayout();
+  for (QTextLine next = layout.createLine(); next.isValid(); next = layout.createLine()) {
+    next.setLineWidth(width);
+    line(next);
+  }
+  layout.endLayout();
+}
+
+constexpr qreal kUnbounded = 1e6;
+
+}  // namespace
+
+QString BreakLines(const QString& text, const QFont& font, int width) {
+  QStringList lines;
+  for (const QString& paragraph : text.split(QLatin1Char('\n'))) {
+    if (TextSize(paragraph, font).width() <= width) {
+      lines << paragraph;
+      continue;
+    }
+    ForEachLine(paragraph, font, width, [&](const QTextLine& line) {
+      lines << paragraph.mid(line.textStart(), line.textLength()).trimmed();
+    });
+  }
+  return lines.join(QLatin1Char('\n'));
+}
+
+QSize TextSize(const QString& text, const QFont& font) {
+  qreal width = 0;
+  qreal height = 0;
+  for (const QString& paragraph : text.split(QLatin1Char('\n'))) {
+    ForEachLine(paragraph, font, kUnbounded, [&](const QTextLine& line) {
+      width = std::max(width, line.horizontalAdvance());
+      height += std::max(line.height(), qreal(QFontMetrics(font).height()));
+    });
+  }
+  return {int(std::ceil(width)), int(std::ceil(height))};
+}
+
+int LineHeight(const QFont& font) { return TextSize(QStringLiteral("漢あAg"), font).height(); }
+
+QSize NeededSize(const QString& text, const QFont& font, QSize offered) {
+  if (text.isEmpty()) return offered;
+  const QSize plain = TextSize(text, font);
+  if (plain.width() <= offered.width()) return offered.expandedTo({0, plain.height()});
+  const bool room_for_more = offered.height() >= plain.height() + LineHeight(font);
+  if (room_for_more) {
+    const QSize broken = TextSize(BreakLines(text, font, offered.width()), font);
+    if (broken.width() <= offered.width() && broken.height() <= offered.height()) return offered;
+    return {offered.width() + 1, offered.height()};
+  }
+  return offered.expandedTo(plain);
+}
+
+}  // namespace orreryui

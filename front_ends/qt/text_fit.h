@@ -1,0 +1,28 @@
+// How much room a text takes, and where it breaks to fit a width.
+#ifndef ORRERYUI_FRONT_ENDS_QT_TEXT_FIT_H_
+#define ORRERYUI_FRONT_ENDS_QT_TEXT_FIT_H_
+
+#include <QFont>
+#include <QSize>
+#include <QString>
+
+namespace orreryui {
+
+// `text` with line feeds put in where a line would be wider than `width` pixels. Line feeds that
+// it has stay; blanks around a new break go.
+QString BreakLines(const QString& text, const QFont& font, int width);
+
+// The room in pixels that `text` takes with the breaks it has, Japanese glyphs included.
+QSize TextSize(const QString& text, const QFont& font);
+
+// The height in pixels of a line that holds Latin and Japanese letters.
+int LineHeight(const QFont& font);
+
+// The size of a rectangle that `text` would need, given a rectangle of size `offered`: `offered`
+// itself if the text fits, breaking lines as far as there is height for them; otherwise a size
+// that is larger in the direction that would help.
+QSize NeededSize(const QString& text, const QFont& font, QSize offered);
+
+}  // namespace orreryui
+
+#endif  // ORRERYUI_FRONT_ENDS_QT_TEXT_FIT_H_

@@ -1,0 +1,22 @@
+// Text on its way between the seam and the widgets.
+#ifndef ORRERYUI_FRONT_ENDS_QT_WIDGET_TEXT_H_
+#define ORRERYUI_FRONT_ENDS_QT_WIDGET_TEXT_H_
+
+#include <QString>
+#include <string>
+
+namespace orreryui {
+
+QString FromUtf8(const std::string& text);
+std::string ToUtf8(const QString& text);
+
+// A label in which & is an ordinary character, for widgets that would take it as a mnemonic.
+QString Literal(const QString& label);
+
+// The text of a multi-line edit: LF inside the widget, CR LF in the model.
+QString FromLines(const std::string& text);
+std::string ToLines(const QString& text);
+
+}  // namespace orreryui
+
+#endif  // ORRERYUI_FRONT_ENDS_QT_WIDGET_TEXT_H_

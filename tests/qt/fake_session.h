@@ -1,0 +1,65 @@
+// A dialog of plain data: it records the gestures that reach it, and does with them the little that
+// a test tells it to.
+#ifndef ORRERYUI_TESTS_QT_FAKE_SESSION_H_
+#define ORRERYUI_TESTS_QT_FAKE_SESSION_H_
+
+#include <functional>
+#include <map>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "platform/front_end.h"
+
+namespace orreryui {
+
+class FakeSession : public DialogSession {
+ public:
+  using Gestures = std::vector<std::string>;
+
+  DialogLayout layout{700, "試験", Placement::kCentred, 0, 0, 200, 150, kNoControlId};
+  std::vector<ControlView> controls;
+  std::map<std::pair<int, int>, DialogSession*> pages;
+  Gestures gestures;                                // such as "click 3", without "paint"
+  int paints = 0;
+  bool ended = false;
+  std::string refused_characters;                   // what Type leaves out, ASCII only
+  std::function<void(const std::string&)> handler;  // runs inside each gesture
+  std::function<void()> on_start;
+  DialogWindow* window = nullptr;
+
+  // Adds a control below the others and returns it. The reference holds until the next call.
+  ControlView& Add(ControlKind kind, int id, const std::string& text = {}, int height = 14);
+
+  ControlView& At(int id);
+
+  // Changes a control as a handler does and has it drawn anew.
+  void Change(int id, const std::function<void(ControlView&)>& change);
+
+  // The gestures since the last call.
+  Gestures Take() { return std::exchange(gestures, {}); }
+
+  void Start(DialogWindow& dialog) override;
+  bool Ended() const override { return ended; }
+  DialogLayout Layout() const override { return layout; }
+  int ControlCount() const override { return int(controls.size()); }
+  ControlView Control(int index) const override { return controls.at(std::size_t(index)); }
+  DialogSession* Page(int tab_control, int tab) override;
+  void Focus(int id) override;
+  void Click(int id) override;
+  TypedText Type(int id, const std::string& text) override;
+  void Pick(int id, int row) override;
+  void DoubleClick(int id, int row, int column) override;
+  void Enter() override { Record("enter"); }
+  void Escape() override;
+  void Paint() override;
+
+ private:
+  void Record(const std::string& gesture);
+
+  int next_y_ = 4;
+};
+
+}  // namespace orreryui
+
+#endif  // ORRERYUI_TESTS_QT_FAKE_SESSION_H_
