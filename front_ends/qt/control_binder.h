@@ -27,6 +27,7 @@ class ControlBinder {
   ControlBinder(const ControlBinder&) = delete;
   ControlBinder& operator=(const ControlBinder&) = delete;
 
+  int id() const { return place_.id; }
   virtual QWidget* widget() const = 0;
 
   // Brings the widget in line with the control. What is the same already isn't touched, so that a
@@ -43,6 +44,9 @@ class ControlBinder {
   // The widgets that take the input focus, in tab order.
   virtual QList<QWidget*> FocusWidgets() const;
 
+  // The widget inside this control's that is to have the input focus; null if it isn't in there.
+  virtual QWidget* InnerFocusWidget() const { return nullptr; }
+
   // Names the control for a screen reader, by the text that stands before it.
   virtual void SetCaption(const QString& caption);
 
@@ -53,7 +57,6 @@ class ControlBinder {
   virtual void ShowState(const ControlView& view) = 0;
 
   int index() const { return place_.index; }
-  int id() const { return place_.id; }
   GestureRunner& runner() const { return place_.runner; }
   void Run(const GestureRunner::Gesture& gesture) const {
     place_.runner.Run(place_.index, gesture);

@@ -95,11 +95,14 @@ QList<QWidget*> ControlPane::FocusWidgets() const {
   return widgets;
 }
 
-QWidget* ControlPane::FocusWidgetOf(int id) const {
-  if (id == kNoControlId) return nullptr;
-  const QString name = QString::number(id);
-  for (QWidget* widget : findChildren<QWidget*>(name)) {
-    if (widget->isEnabled() && widget->isVisibleTo(window())) return widget;
+QWidget* ControlPane::FocusWidget() const {
+  const int focus = session_.Layout().focus;
+  for (const auto& binder : binders_) {
+    if (QWidget* const inner = binder->InnerFocusWidget()) return inner;
+    const bool wanted = focus != kNoControlId && binder->id() == focus;
+    if (wanted && binder->widget()->isEnabled() && binder->widget()->isVisibleTo(window())) {
+      return binder->widget();
+    }
   }
   return nullptr;
 }

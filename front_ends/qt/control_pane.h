@@ -30,9 +30,9 @@ class ControlPane : public QWidget, public DialogWindow, private GestureRunner {
 
   QList<QWidget*> FocusWidgets() const;
 
-  // The widget of the control, also on a page of a tab control, that can take the focus now; null
-  // if there is none.
-  QWidget* FocusWidgetOf(int id) const;
+  // The widget, also on a page of a tab control, that is to have the input focus and can take it;
+  // null if there is none.
+  QWidget* FocusWidget() const;
 
   // To be called when a gesture has run on any pane of the window.
   void AfterGesture();

@@ -113,7 +113,7 @@ void QtDialog::OrderTabs() {
 }
 
 void QtDialog::ShowFocus() {
-  QWidget* const wanted = pane_->FocusWidgetOf(session_.Layout().focus);
+  QWidget* const wanted = pane_->FocusWidget();
   if (wanted == nullptr || wanted->hasFocus()) return;
   QWidget* const proxy = wanted->focusProxy();
   if (proxy != nullptr && proxy->hasFocus()) return;

@@ -88,6 +88,13 @@ QList<QWidget*> TabBinder::FocusWidgets() const {
   return widgets;
 }
 
+QWidget* TabBinder::InnerFocusWidget() const {
+  for (const auto& [tab, page] : pages_) {
+    if (QWidget* const widget = page->FocusWidget()) return widget;
+  }
+  return nullptr;
+}
+
 void TabBinder::AfterGesture() {
   if (AddPages(bar_->count())) {
     frame_.ContentsChanged();

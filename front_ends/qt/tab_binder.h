@@ -20,6 +20,7 @@ class TabBinder : public ControlBinder {
   QSize Needed(const ControlView& view, QSize offered) const override;
   void Arrange(const ControlView& view, const DialogScale& scale) override;
   QList<QWidget*> FocusWidgets() const override;
+  QWidget* InnerFocusWidget() const override;
   void SetCaption(const QString& caption) override { bar_->setAccessibleName(caption); }
   void AfterGesture() override;
 

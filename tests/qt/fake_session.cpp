@@ -76,9 +76,7 @@ void FakeSession::DoubleClick(int id, int row, int column) {
   Record(Name("double", id) + ' ' + std::to_string(row) + ' ' + std::to_string(column));
 }
 
-void FakeSession::Escape() {
-  Record("escape");
-}
+void FakeSession::Escape() { Record("escape"); }
 
 void FakeSession::Paint() {
   ++paints;

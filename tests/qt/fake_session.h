@@ -20,7 +20,7 @@ class FakeSession : public DialogSession {
   DialogLayout layout{700, "試験", Placement::kCentred, 0, 0, 200, 150, kNoControlId};
   std::vector<ControlView> controls;
   std::map<std::pair<int, int>, DialogSession*> pages;
-  Gestures gestures;                                // such as "click 3", without "paint"
+  Gestures gestures;  // such as "click 3", without "paint"
   int paints = 0;
   bool ended = false;
   std::string refused_characters;                   // what Type leaves out, ASCII only
