@@ -1,0 +1,105 @@
+// Hosts in which no window can be shown: an operation gives its result for a run that didn't end in
+// OK, and the host lives.
+#include <dlfcn.h>
+#include <locale.h>
+#include <netinet/in.h>
+#include <sys/socket.h>
+#include <sys/un.h>
+#include <unistd.h>
+
+#include <chrono>
+
+#include "tests/promises/promise.h"
+
+namespace orreryui {
+namespace {
+
+class NoWindow : public Promise {};
+
+// A server that lets clients connect and never says a word to them.
+class SilentServer {
+ public:
+  // Listens on a port of the loopback interface that can be the port of a display.
+  static SilentServer OnDisplayPort() {
+    sockaddr_in address{};
+    address.sin_family = AF_INET;
+    address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+    return SilentServer(AF_INET, reinterpret_cast<const sockaddr*>(&address), sizeof address);
+  }
+
+  static SilentServer OnPath(const std::string& path) {
+    sockaddr_un address{};
+    address.sun_family = AF_UNIX;
+    path.copy(address.sun_path, sizeof address.sun_path - 1);
+    unlink(path.c_str());
+    return SilentServer(AF_UNIX, reinterpret_cast<const sockaddr*>(&address), sizeof address);
+  }
+
+  ~SilentServer() { close(socket_); }
+  SilentServer(const SilentServer&) = delete;
+  SilentServer& operator=(const SilentServer&) = delete;
+
+  int Port() const {
+    sockaddr_in address{};
+    socklen_t size = sizeof address;
+    EXPECT_EQ(getsockname(socket_, reinterpret_cast<sockaddr*>(&address), &size), 0);
+    return ntohs(address.sin_port);
+  }
+
+ private:
+  SilentServer(int family, const sockaddr* address, socklen_t size)
+      : socket_(socket(family, SOCK_STREAM | SOCK_CLOEXEC, 0)) {
+    EXPECT_EQ(bind(socket_, address, size), 0);
+    EXPECT_EQ(listen(socket_, 16), 0);
+  }
+
+  int socket_;
+};
+
+TEST_F(NoWindow, WithoutADisplay) { ExpectNoDialog(); }
+
+TEST_F(NoWindow, OnADisplayThatHasNoServer) {
+  setenv("DISPLAY", ":40961", 1);
+  ExpectNoDialog();
+}
+
+TEST_F(NoWindow, OnAPlatformThatDoesNotExist) {
+  setenv("QT_QPA_PLATFORM", "no-such-platform", 1);
+  ExpectNoDialog();
+}
+
+TEST_F(NoWindow, OnADisplayThatNeverAnswers) {
+  constexpr int kFirstDisplayPort = 6000;
+  const SilentServer server = SilentServer::OnDisplayPort();
+  setenv("DISPLAY", ("127.0.0.1:" + std::to_string(server.Port() - kFirstDisplayPort)).c_str(), 1);
+  const auto start = std::chrono::steady_clock::now();
+  ExpectNoDialog();
+  EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(30));
+}
+
+TEST_F(NoWindow, OnAWaylandSocketThatNeverAnswers) {
+  const std::string path = testing::TempDir() + "/silent-" + std::to_string(getpid());
+  const SilentServer server = SilentServer::OnPath(path);
+  setenv("WAYLAND_DISPLAY", path.c_str(), 1);
+  ExpectNoDialog();
+  unlink(path.c_str());
+}
+
+TEST_F(NoWindow, BesideAnotherVersionOfTheToolkit) {
+  ASSERT_NE(dlopen(ORRERYUI_OTHER_TOOLKIT, RTLD_NOW | RTLD_GLOBAL), nullptr) << dlerror();
+  UseOffscreen();
+  ExpectNoDialog();
+}
+
+TEST_F(NoWindow, InTheLocaleOfTheEnvironment) {
+  setenv("LC_ALL", "C.UTF-8", 1);
+  setlocale(LC_ALL, "");
+  ExpectNoDialog();
+}
+
+TEST_F(NoWindow, AThousandTimes) {
+  ExpectBounded([] { EXPECT_EQ(OnRengeConfirm("", "", "", ""), -1); });
+}
+
+}  // namespace
+}  // namespace orreryui

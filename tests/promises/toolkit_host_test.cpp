@@ -1,0 +1,108 @@
+// Hosts that use Qt themselves, and what they may rely on: the library uses their application and
+// leaves its loop, its life and its settings to them.
+#include <QPointer>
+#include <QWidget>
+#include <thread>
+
+#include "tests/promises/promise.h"
+#include "tests/promises/user.h"
+
+namespace orreryui {
+namespace {
+
+// What a host's own main() has.
+struct Arguments {
+  int count = 1;
+  char name[5] = "host";
+  char* values[2] = {name, nullptr};
+};
+
+class ToolkitHost : public Promise {
+ protected:
+  void SetUp() override {
+    Promise::SetUp();
+    UseOffscreen();
+  }
+
+  // Runs the host's loop until everything that is due has been seen to.
+  static int RunLoop() {
+    QTimer last;
+    int rounds = 0;
+    QObject::connect(&last, &QTimer::timeout, [&rounds] {
+      if (++rounds == 50) QCoreApplication::exit(kLoopRan);
+    });
+    last.start(0);
+    return QCoreApplication::exec();
+  }
+
+  static constexpr int kLoopRan = 7;
+  Arguments arguments_;
+};
+
+TEST_F(ToolkitHost, KeepsItsApplicationAndItsLoop) {
+  QApplication application(arguments_.count, arguments_.values);
+  const QPointer<QCoreApplication> life = &application;
+  {
+    const User user(User::PressEscape);
+    ExpectNoDialog();
+  }
+  {
+    const User user(User::PressConfirm);
+    EXPECT_EQ(Confirm(), 1);
+  }
+  EXPECT_EQ(QCoreApplication::instance(), life.data());
+  EXPECT_TRUE(QGuiApplication::quitOnLastWindowClosed());
+  EXPECT_TRUE(QApplication::topLevelWidgets().isEmpty());
+  EXPECT_EQ(RunLoop(), kLoopRan);
+}
+
+TEST_F(ToolkitHost, CallsFromInsideItsLoop) {
+  QApplication application(arguments_.count, arguments_.values);
+  const User user(User::PressEscape);
+  int answer = 0;
+  QTimer::singleShot(0, [&answer] { answer = Confirm(); });
+  EXPECT_EQ(RunLoop(), kLoopRan);
+  EXPECT_EQ(answer, -1);
+}
+
+TEST_F(ToolkitHost, QuitsWhileADialogIsOpen) {
+  QApplication application(arguments_.count, arguments_.values);
+  const User user([](QWidget&) { QCoreApplication::quit(); });
+  int answer = 0;
+  QTimer::singleShot(0, [&answer] { answer = Confirm(); });
+  EXPECT_EQ(QCoreApplication::exec(), 0);
+  EXPECT_EQ(answer, -1);
+}
+
+TEST_F(ToolkitHost, KeepsItsOwnWindow) {
+  QApplication application(arguments_.count, arguments_.values);
+  QWidget window;
+  window.show();
+  {
+    const User user(User::PressEscape);
+    EXPECT_EQ(Confirm(), -1);
+  }
+  EXPECT_TRUE(window.isVisible());
+  EXPECT_TRUE(window.isEnabled());
+  QTimer::singleShot(0, &window, &QWidget::close);
+  EXPECT_EQ(QCoreApplication::exec(), 0);
+}
+
+TEST_F(ToolkitHost, WithAnApplicationThatHasNoWindows) {
+  const QCoreApplication application(arguments_.count, arguments_.values);
+  ExpectNoDialog();
+}
+
+TEST_F(ToolkitHost, CallsFromAThreadThatIsNotTheApplications) {
+  const QApplication application(arguments_.count, arguments_.values);
+  std::thread(ExpectNoDialog).join();
+}
+
+TEST_F(ToolkitHost, AThousandTimes) {
+  QApplication application(arguments_.count, arguments_.values);
+  const User user(User::PressEscape);
+  ExpectBounded([] { EXPECT_EQ(OnRengeConfirm("1", "2", "3", "4"), -1); });
+}
+
+}  // namespace
+}  // namespace orreryui
