@@ -1,0 +1,78 @@
+#include "host/hand.h"
+
+#include <QAbstractButton>
+#include <QAbstractItemView>
+#include <QApplication>
+#include <QComboBox>
+#include <QInputMethodEvent>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPixmap>
+#include <utility>
+
+namespace orreryui::host {
+namespace {
+
+void ClickMouse(QWidget& widget) {
+  const QPointF place = widget.rect().center();
+  const QPointF on_screen = widget.mapToGlobal(place);
+  QMouseEvent press(QEvent::MouseButtonPress, place, on_screen, Qt::LeftButton, Qt::LeftButton,
+                    Qt::NoModifier);
+  QApplication::sendEvent(&widget, &press);
+  QMouseEvent release(QEvent::MouseButtonRelease, place, on_screen, Qt::LeftButton, Qt::NoButton,
+                      Qt::NoModifier);
+  QApplication::sendEvent(&widget, &release);
+}
+
+void PressKey(QWidget& widget, Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
+  QKeyEvent press(QEvent::KeyPress, key, modifiers);
+  QApplication::sendEvent(&widget, &press);
+  QKeyEvent release(QEvent::KeyRelease, key, modifiers);
+  QApplication::sendEvent(&widget, &release);
+}
+
+}  // namespace
+
+Hand::Hand(QWidget& dialog, std::function<void(const QString&)> fail,
+           std::function<QString()> picture)
+    : dialog_(dialog), fail_(std::move(fail)), picture_(std::move(picture)) {}
+
+template <typename Widget>
+Widget* Hand::Find(int control) {
+  auto* const widget = dialog_.findChild<Widget*>(QString::number(control));
+  if (widget && widget->isVisible() && widget->isEnabled()) return widget;
+  fail_(QString("dialog %1 has no control %2 to use").arg(dialog_.objectName()).arg(control));
+  return nullptr;
+}
+
+void Hand::Click(int control) {
+  if (auto* const button = Find<QAbstractButton>(control)) ClickMouse(*button);
+}
+
+// By an input method, as Japanese text is typed.
+void Hand::Type(int control, const QString& text) {
+  auto* const edit = Find<QWidget>(control);
+  if (!edit) return;
+  edit->setFocus(Qt::MouseFocusReason);
+  PressKey(*edit, Qt::Key_A, Qt::ControlModifier);
+  QInputMethodEvent commit;
+  commit.setCommitString(text);
+  QApplication::sendEvent(edit, &commit);
+}
+
+void Hand::PickFromCombo(int control, int row) {
+  auto* const combo = Find<QComboBox>(control);
+  if (!combo) return;
+  combo->setFocus(Qt::MouseFocusReason);
+  combo->showPopup();
+  PressKey(*combo->view(), Qt::Key_Home);
+  for (int i = 0; i < row; ++i) PressKey(*combo->view(), Qt::Key_Down);
+  PressKey(*combo->view(), Qt::Key_Return);
+}
+
+void Hand::TakePicture() {
+  const QString file = picture_();
+  if (!dialog_.grab().save(file)) fail_("can't write the picture " + file);
+}
+
+}  // namespace orreryui::host

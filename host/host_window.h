@@ -1,0 +1,47 @@
+// The window of the sample host, which stands in for the map viewer: the operations on the left,
+// the arguments and the last result of the chosen one on the right. What an operation hands back is
+// passed in again at its next call.
+#ifndef ORRERYUI_HOST_HOST_WINDOW_H_
+#define ORRERYUI_HOST_HOST_WINDOW_H_
+
+#include <QFormLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QTableWidget>
+#include <QWidget>
+#include <map>
+#include <string>
+#include <vector>
+
+#include "host/operation.h"
+#include "host/sample_folder.h"
+
+namespace orreryui::host {
+
+class HostWindow : public QWidget {
+ public:
+  HostWindow();
+
+ private:
+  const Operation& Chosen() const;
+  void ShowChosen();
+  void CallChosen();
+  void ShowValues(const std::vector<std::string>& values);
+  void ShowResult(const Operation& operation, const Outcome& outcome);
+
+  SampleFolder data_;
+  std::map<std::string, std::vector<std::string>> kept_;  // the values of each operation, by name
+  std::vector<QLineEdit*> editors_;                       // one an argument
+
+  // Owned by this window, as all its widgets are.
+  QListWidget* operations_;
+  QLabel* purpose_;
+  QFormLayout* arguments_;
+  QLabel* raw_result_;
+  QTableWidget* fields_;
+};
+
+}  // namespace orreryui::host
+
+#endif  // ORRERYUI_HOST_HOST_WINDOW_H_

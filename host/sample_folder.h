@@ -1,0 +1,32 @@
+// A copy of the sample data that a run of the sample host may change.
+#ifndef ORRERYUI_HOST_SAMPLE_FOLDER_H_
+#define ORRERYUI_HOST_SAMPLE_FOLDER_H_
+
+#include <QTemporaryDir>
+#include <string>
+#include <vector>
+
+#include "host/operation.h"
+
+namespace orreryui::host {
+
+// Lives as long as its folder. The original lies where the build and the installation put it: in
+// share/ beside the folder of the program.
+class SampleFolder {
+ public:
+  SampleFolder();
+
+  // Whether the copy could be made.
+  bool IsComplete() const { return complete_; }
+
+  // What the operation is passed at first.
+  std::vector<std::string> StartValues(const Operation& operation) const;
+
+ private:
+  QTemporaryDir folder_;
+  bool complete_ = false;
+};
+
+}  // namespace orreryui::host
+
+#endif  // ORRERYUI_HOST_SAMPLE_FOLDER_H_
