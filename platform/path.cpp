@@ -84,27 +84,29 @@ class Name {
   std::string folded_utf8_;
 };
 
+std::string Below(const std::string& folder, const std::string& name) {
+  const bool glue = !folder.empty() && folder.back() != '/';
+  return glue ? folder + '/' + name : folder + name;
+}
+
 bool Exists(const std::string& path) { return CurrentFileSystem().Stat(path).has_value(); }
 
 }  // namespace
 
 std::string NativePath(std::string_view path) {
   if (HasDrive(path)) path.remove_prefix(2);
-  std::string native = !path.empty() && IsSeparator(path[0]) ? "/" : "";
+  std::string native(!path.empty() && IsSeparator(path[0]) ? 1 : 0, '/');
   bool found = true;
-  std::string glue;
   for (const std::string_view bytes : SplitNames(path)) {
     const Name name(bytes);
-    std::string next = native + glue + name.Spelled();
+    std::string next = Below(native, name.Spelled());
     if (found && !Exists(next)) {
-      const std::string folder = native.empty() ? "." : native;
-      const std::string raw = native + glue + name.Raw();
-      const std::string other = Exists(raw) ? name.Raw() : name.FindIn(folder);
+      const bool is_raw = Exists(Below(native, name.Raw()));
+      const std::string other = is_raw ? name.Raw() : name.FindIn(native.empty() ? "." : native);
       found = !other.empty();
-      if (found) next = native + glue + other;
+      if (found) next = Below(native, other);
     }
     native = std::move(next);
-    glue = "/";
   }
   return native;
 }
