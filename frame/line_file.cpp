@@ -68,10 +68,6 @@ LineReader::LineReader(const char* path, std::size_t limit)
       // Room for a whole line with its CR LF, wherever it begins.
       block_(file_ ? std::max(kBlockSize, longest_ + 2) : 0, '\0') {}
 
-std::string_view LineReader::Unread() const {
-  return std::string_view(block_).substr(begin_, end_ - begin_);
-}
-
 // Moves the unread bytes to the front and reads what fits behind them. False if nothing came.
 bool LineReader::Fill() {
   if (!file_ || at_end_) return false;
@@ -82,32 +78,35 @@ bool LineReader::Fill() {
   failed_ = count < 0;
   at_end_ = count <= 0;
   if (!at_end_) end_ += static_cast<std::size_t>(count);
+  holds_nul_ = std::memchr(block_.data(), '\0', end_) != nullptr;
   return !at_end_;
 }
 
-bool LineReader::ReadLine(std::string_view& line) {
-  const std::size_t window = longest_ + 2;
-  const char* line_feed = nullptr;
-  do {
-    const std::string_view unread = Unread().substr(0, window);
-    line_feed = static_cast<const char*>(std::memchr(unread.data(), '\n', unread.size()));
-  } while (!line_feed && Unread().size() < window && Fill());
+// The line feed that ends the next line, or null if the line has none or is too long.
+const char* LineReader::FindLineFeed() {
+  const std::size_t window = longest_ + 2;  // a whole line with its CR LF
+  for (;;) {
+    const std::size_t size = std::min(end_ - begin_, window);
+    const void* const found = std::memchr(block_.data() + begin_, '\n', size);
+    if (found || size == window || !Fill()) return static_cast<const char*>(found);
+  }
+}
 
-  line = Unread();
-  if (line.empty()) return std::exchange(empty_line_due_, false) && !failed_;
-  std::size_t taken = line.size();
-  if (line_feed) {
-    line = line.substr(0, static_cast<std::size_t>(line_feed - line.data()));
-    taken = line.size() + 1;
-    if (!line.empty() && line.back() == '\r') line.remove_suffix(1);
+bool LineReader::ReadLine(std::string_view& line) {
+  const char* const line_feed = FindLineFeed();
+  const char* const begin = block_.data() + begin_;
+  std::size_t length = line_feed ? static_cast<std::size_t>(line_feed - begin) : end_ - begin_;
+  std::size_t taken = length + (line_feed ? 1 : 0);
+  if (taken == 0) {
+    line = {};
+    return std::exchange(empty_line_due_, false) && !failed_;
   }
-  empty_line_due_ = line_feed && line.size() <= longest_;
-  if (line.size() > longest_) {
-    line = line.substr(0, longest_);
-    taken = longest_;
-  }
+  if (line_feed && length > 0 && begin[length - 1] == '\r') --length;
+  empty_line_due_ = line_feed && length <= longest_;
+  if (length > longest_) length = taken = longest_;
   begin_ += taken;
-  line = line.substr(0, line.find('\0'));
+  line = std::string_view(begin, length);
+  if (holds_nul_) line = line.substr(0, line.find('\0'));
   return true;
 }
 
@@ -121,7 +120,7 @@ bool LineReader::ReadLine(CString& line) {
 std::string LineReader::ReadRest() {
   std::string rest;
   do {
-    rest += Unread();
+    rest.append(block_, begin_, end_ - begin_);
     begin_ = end_;
   } while (Fill());
   empty_line_due_ = false;

@@ -55,7 +55,7 @@ class LineReader {
   bool Failed() const { return failed_; }
 
  private:
-  std::string_view Unread() const;
+  const char* FindLineFeed();
   bool Fill();
 
   std::unique_ptr<File> file_;
@@ -63,7 +63,8 @@ class LineReader {
   std::string block_;
   std::size_t begin_ = 0;  // the bytes of block_ from begin_ to end_ are unread
   std::size_t end_ = 0;
-  bool at_end_ = false;  // the file has no bytes behind block_
+  bool holds_nul_ = false;  // there is a NUL in block_
+  bool at_end_ = false;     // the file has no bytes behind block_
   bool failed_ = false;
   bool empty_line_due_ = false;  // the last line that was read had its LF
 };
