@@ -102,7 +102,7 @@ bool LineReader::ReadLine(std::string_view& line) {
     return std::exchange(empty_line_due_, false) && !failed_;
   }
   if (line_feed && length > 0 && begin[length - 1] == '\r') --length;
-  empty_line_due_ = line_feed && length <= longest_;
+  empty_line_due_ = line_feed != nullptr;
   if (length > longest_) length = taken = longest_;
   begin_ += taken;
   line = std::string_view(begin, length);
