@@ -34,7 +34,7 @@ TEST_F(CommandLineTest, FindsTheProgram) {
   const std::string program = PathOf("Program Files/My Editor/ed");
   const std::string spelled = "C:" + PathOf("program files\\my editor\\ED");
   for (const std::string& line :
-       {spelled + " -x", " \t" + spelled + "\t-x", "\"" + spelled + "\" -x"}) {
+       {spelled + " -x", " \t" + spelled + "\t-x", '"' + spelled + "\" -x"}) {
     const auto command = ParseCommandLine(line);
     ASSERT_TRUE(command) << line;
     EXPECT_EQ(command->program, program) << line;
@@ -46,7 +46,7 @@ TEST_F(CommandLineTest, TheShorterProgramComesFirst) {
   MakeProgram("a");
   MakeProgram("a b");
   EXPECT_EQ(ParseCommandLine(PathOf("a b"))->program, PathOf("a"));
-  EXPECT_EQ(ParseCommandLine("\"" + PathOf("a b") + "\"")->program, PathOf("a b"));
+  EXPECT_EQ(ParseCommandLine('"' + PathOf("a b") + "\"")->program, PathOf("a b"));
 }
 
 TEST_F(CommandLineTest, ABareNameIsLookedForOnThePath) {
@@ -86,10 +86,10 @@ TEST_F(CommandLineTest, PathsOfWhatExistsStayWhole) {
   for (const char* name : {"a.txt", "A b.txt", "ルート 表.txt", "x\"y z"}) folder_.Write(name, "");
   const std::string folder = "C:" + folder_.Path().string() + "\\";
   EXPECT_EQ(ArgumentsOf(" -n " + folder + "a B.TXT "), Arguments({"-n", PathOf("A b.txt")}));
-  EXPECT_EQ(ArgumentsOf(" " + folder + "a.txt -n"), Arguments({PathOf("a.txt"), "-n"}));
-  EXPECT_EQ(ArgumentsOf(" " + folder + FromUtf8("ルート 表.txt").bytes),
+  EXPECT_EQ(ArgumentsOf(' ' + folder + "a.txt -n"), Arguments({PathOf("a.txt"), "-n"}));
+  EXPECT_EQ(ArgumentsOf(' ' + folder + FromUtf8("ルート 表.txt").bytes),
             Arguments({PathOf("ルート 表.txt")}));
-  EXPECT_EQ(ArgumentsOf(" " + folder + "x\"y z"), Arguments({PathOf("x\"y z")}));
+  EXPECT_EQ(ArgumentsOf(' ' + folder + "x\"y z"), Arguments({PathOf("x\"y z")}));
   EXPECT_EQ(ArgumentsOf(" \"" + folder + "a b.txt\" x"), Arguments({PathOf("A b.txt"), "x"}));
 }
 

@@ -44,7 +44,7 @@ TEST_F(RunEditorTest, GivesPathsToTheEditorAsTheyAre) {
   for (const std::string name : {"two words.txt", "$(touch x) ;|&`'\"*?.txt", "表.txt"}) {
     folder_.Write(name, "");
     EXPECT_TRUE(Run(PathOf("ed"), "C:" + PathOf(name == "表.txt" ? "\x95\x5C.txt" : name)));
-    EXPECT_EQ(Told(), "<" + PathOf(name) + ">");
+    EXPECT_EQ(Told(), '<' + PathOf(name) + '>');
   }
   EXPECT_FALSE(std::filesystem::exists("x"));
 }
@@ -52,7 +52,7 @@ TEST_F(RunEditorTest, GivesPathsToTheEditorAsTheyAre) {
 TEST_F(RunEditorTest, FindsAnEditorWithBlanksAndArguments) {
   std::filesystem::rename(PathOf("ed"), PathOf("my ed"));
   EXPECT_TRUE(Run(PathOf("my ed") + " -n \"a b\"", PathOf("missing")));
-  EXPECT_EQ(Told(), "<-n><a b><" + PathOf("missing") + ">");
+  EXPECT_EQ(Told(), "<-n><a b><" + PathOf("missing") + '>');
 }
 
 TEST_F(RunEditorTest, StartsNothingWithoutAProgram) {
