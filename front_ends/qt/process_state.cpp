@@ -19,6 +19,15 @@ std::map<std::string, std::string> Environment() {
   return variables;
 }
 
+// Setting an action anew isn't free of traces: the C library marks it as its own. So an action that
+// nobody changed is left alone.
+void Restore(int number, const struct sigaction& action) {
+  struct sigaction now {};
+  sigaction(number, nullptr, &now);
+  if (now.sa_handler == action.sa_handler && now.sa_flags == action.sa_flags) return;
+  sigaction(number, &action, nullptr);
+}
+
 }  // namespace
 
 ProcessState::ProcessState()
@@ -39,7 +48,7 @@ ProcessState::~ProcessState() {
     if (now == nullptr || now != value) setenv(name.c_str(), value.c_str(), 1);
   }
   for (int number = 1; number < NSIG; ++number) {
-    sigaction(number, &handlers_[std::size_t(number)], nullptr);
+    Restore(number, handlers_[std::size_t(number)]);
   }
   std::setlocale(LC_ALL, locale_.c_str());
 }
