@@ -17,6 +17,16 @@ QSize IndicatorRoom(const QWidget& widget, QStyle::PixelMetric width, QStyle::Pi
       0};
 }
 
+// A button that takes clicks on the whole of its rectangle, not on its label alone.
+template <class Button>
+class WholeButton : public Button {
+ public:
+  using Button::Button;
+
+ protected:
+  bool hitButton(const QPoint& place) const override { return this->rect().contains(place); }
+};
+
 }  // namespace
 
 ButtonBinder::ButtonBinder(const BinderPlace& place, QAbstractButton* button)
@@ -70,7 +80,7 @@ QSize PushButtonBinder::Surroundings() const {
 }
 
 RadioButtonBinder::RadioButtonBinder(const BinderPlace& place, QButtonGroup* group)
-    : ButtonBinder(place, new QRadioButton(place.parent)) {
+    : ButtonBinder(place, new WholeButton<QRadioButton>(place.parent)) {
   group->addButton(static_cast<QRadioButton*>(widget()));
 }
 
@@ -88,7 +98,7 @@ QSize RadioButtonBinder::Surroundings() const {
 }
 
 CheckBoxBinder::CheckBoxBinder(const BinderPlace& place)
-    : ButtonBinder(place, new QCheckBox(place.parent)) {}
+    : ButtonBinder(place, new WholeButton<QCheckBox>(place.parent)) {}
 
 QSize CheckBoxBinder::Surroundings() const {
   return IndicatorRoom(*widget(), QStyle::PM_IndicatorWidth, QStyle::PM_CheckBoxLabelSpacing);

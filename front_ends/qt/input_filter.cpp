@@ -33,15 +33,16 @@ bool InputFilter::eventFilter(QObject* watched, QEvent* event) {
 }
 
 bool InputFilter::TakesKey(const Watched& widget, const QKeyEvent& key) const {
-  if (widget.composing) return false;
   switch (key.key()) {
     case Qt::Key_Return:
     case Qt::Key_Enter:
+      if (widget.composing) return true;  // it is meant for the input method
       if (widget.enter_breaks_lines) return false;
       // A key that is held down must not press the buttons of the windows that follow.
       if (!key.isAutoRepeat()) runner_.PressEnter();
       return true;
     case Qt::Key_Escape:
+      if (widget.composing) return true;
       if (!key.isAutoRepeat()) runner_.PressEscape();
       return true;
     default:

@@ -11,8 +11,7 @@
 namespace orreryui {
 
 // A list or tree widget. A pick is reported when the mouse button comes up, also on the row that
-// was selected already, and when a key has changed the row; a double click when the button comes up
-// for the second time.
+// was selected already, and when a key has changed the row.
 template <class View>
 class PickingView : public View {
  public:
@@ -42,27 +41,23 @@ class PickingView : public View {
  protected:
   void mousePressEvent(QMouseEvent* event) override {
     pressed_ = event->button() == Qt::LeftButton && this->indexAt(event->pos()).isValid();
-    double_clicked_ = false;
     View::mousePressEvent(event);
   }
 
   void mouseDoubleClickEvent(QMouseEvent* event) override {
     View::mouseDoubleClickEvent(event);
-    pressed_ = event->button() == Qt::LeftButton && this->indexAt(event->pos()).isValid();
-    double_clicked_ = pressed_;
+    pressed_ = false;
+    const QModelIndex index = this->indexAt(event->pos());
+    if (event->button() == Qt::LeftButton && index.isValid()) {
+      on_double_click(index.row(), index.column());
+    }
   }
 
   void mouseReleaseEvent(QMouseEvent* event) override {
     View::mouseReleaseEvent(event);
     if (!pressed_ || event->button() != Qt::LeftButton) return;
     pressed_ = false;
-    const QModelIndex current = this->currentIndex();
-    if (!current.isValid()) return;
-    if (double_clicked_) {
-      on_double_click(current.row(), current.column());
-    } else {
-      on_pick(current.row());
-    }
+    if (this->currentIndex().isValid()) on_pick(this->currentIndex().row());
   }
 
   void keyPressEvent(QKeyEvent* event) override {
@@ -73,8 +68,7 @@ class PickingView : public View {
   }
 
  private:
-  bool pressed_ = false;         // on a row
-  bool double_clicked_ = false;  // this press is the second one
+  bool pressed_ = false;  // the left button, on a row
 };
 
 using PickingList = PickingView<QListWidget>;

@@ -50,7 +50,10 @@ void FakeSession::Focus(int id) {
   Record(Name("focus", id));
 }
 
-void FakeSession::Click(int id) { Record(Name("click", id)); }
+void FakeSession::Click(int id) {
+  layout.focus = id;
+  Record(Name("click", id));
+}
 
 TypedText FakeSession::Type(int id, const std::string& text) {
   TypedText typed;
@@ -58,6 +61,7 @@ TypedText FakeSession::Type(int id, const std::string& text) {
     const bool known = refused_characters.find(character) == std::string::npos;
     (known ? typed.text : typed.refused) += character;
   }
+  layout.focus = id;
   At(id).text = typed.text;
   Record(Name("type", id) + ' ' + typed.text);
   return typed;
@@ -65,6 +69,7 @@ TypedText FakeSession::Type(int id, const std::string& text) {
 
 void FakeSession::Pick(int id, int row) {
   ControlView& view = At(id);
+  layout.focus = id;
   view.selection = row;
   const bool combo =
       view.kind == ControlKind::kComboBox || view.kind == ControlKind::kSimpleComboBox;

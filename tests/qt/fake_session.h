@@ -28,7 +28,8 @@ class FakeSession : public DialogSession {
   std::function<void()> on_start;
   DialogWindow* window = nullptr;
 
-  // Adds a control below the others and returns it. The reference holds until the next call.
+  // Adds a control below the others and returns it. The reference holds until the next call. The
+  // first control that takes input has the focus when the dialog opens, if layout names none.
   ControlView& Add(ControlKind kind, int id, const std::string& text = {}, int height = 14);
 
   ControlView& At(int id);
@@ -36,7 +37,8 @@ class FakeSession : public DialogSession {
   // Changes a control as a handler does and has it drawn anew.
   void Change(int id, const std::function<void(ControlView&)>& change);
 
-  // The gestures since the last call.
+  // The gestures since the last call. Focus is recorded where it moves; the other gestures move it
+  // without a record of their own.
   Gestures Take() { return std::exchange(gestures, {}); }
 
   void Start(DialogWindow& dialog) override;

@@ -3,6 +3,7 @@
 #include <dlfcn.h>
 
 #include <QApplication>
+#include <QTest>
 #include <QTimer>
 
 namespace orreryui {
@@ -17,7 +18,7 @@ FrontEnd* LoadFrontEnd(int version) {
 void ThenInFront(const std::function<void(QWidget&)>& user) {
   QTimer::singleShot(0, [user] {
     QWidget* const front = QApplication::activeModalWidget();
-    if (front == nullptr) qFatal("no dialog is in front");
+    if (front == nullptr || !QTest::qWaitForWindowActive(front)) qFatal("no dialog is in front");
     user(*front);
   });
 }

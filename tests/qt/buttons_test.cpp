@@ -1,0 +1,178 @@
+#include <gmock/gmock.h>
+
+#include <QCheckBox>
+#include <QGroupBox>
+#include <QLabel>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTest>
+
+#include "tests/qt/plugin.h"
+
+namespace orreryui {
+namespace {
+
+using testing::ElementsAre;
+
+QColor MiddleOf(QWidget& widget) {
+  return widget.grab().toImage().pixelColor(widget.rect().center());
+}
+
+TEST(Buttons, AmpersandIsOnlyText) {
+  FakeSession session;
+  session.Add(ControlKind::kPushButton, 1, "A&B");
+  session.Add(ControlKind::kCheckBox, 2, "C&D");
+  session.Add(ControlKind::kStatic, 3, "E&F <b>");
+  RunWithUser(session, [&](QDialog& window) {
+    EXPECT_EQ(ControlWidget<QPushButton>(window, 1).text(), "A&&B");
+    EXPECT_EQ(ControlWidget<QPushButton>(window, 1).accessibleName(), "A&B");
+    EXPECT_EQ(ControlWidget<QCheckBox>(window, 2).text(), "C&&D");
+    EXPECT_EQ(ControlWidget<QLabel>(window, 3).text(), "E&F <b>");
+    EXPECT_EQ(ControlWidget<QLabel>(window, 3).textFormat(), Qt::PlainText);
+    QTest::keyClick(&window, Qt::Key_B, Qt::AltModifier);
+    EXPECT_THAT(session.Take(), ElementsAre());
+  });
+}
+
+TEST(Buttons, PressMovesTheFocusAndReleaseClicks) {
+  FakeSession session;
+  session.Add(ControlKind::kPushButton, 1, "一");
+  session.Add(ControlKind::kPushButton, 2, "二");
+  session.layout.focus = 1;
+  RunWithUser(session, [&](QDialog& window) {
+    auto& second = ControlWidget<QPushButton>(window, 2);
+    QTest::mousePress(&second, Qt::LeftButton);
+    EXPECT_THAT(session.Take(), ElementsAre("focus 2"));
+    QTest::mouseRelease(&second, Qt::LeftButton);
+    EXPECT_THAT(session.Take(), ElementsAre("click 2"));
+    QTest::keyClick(&second, Qt::Key_Space);
+    EXPECT_THAT(session.Take(), ElementsAre("click 2"));
+  });
+}
+
+TEST(Buttons, CheckBoxesShowTheModelWhateverWasClicked) {
+  FakeSession session;
+  session.Add(ControlKind::kCheckBox, 1, "一");
+  session.Add(ControlKind::kPushLikeCheckBox, 2, "二");
+  session.layout.focus = 1;
+  RunWithUser(session, [&](QDialog& window) {
+    auto& check = ControlWidget<QCheckBox>(window, 1);
+    auto& push_like = ControlWidget<QPushButton>(window, 2);
+    QTest::mouseClick(&check, Qt::LeftButton);
+    EXPECT_FALSE(check.isChecked());
+    session.handler = [&](const std::string& gesture) {
+      if (gesture == "click 2") session.Change(2, [](ControlView& view) { view.checked = true; });
+    };
+    QTest::mouseClick(&push_like, Qt::LeftButton);
+    EXPECT_TRUE(push_like.isChecked());
+    EXPECT_THAT(session.Take(), ElementsAre("click 1", "focus 2", "click 2"));
+  });
+}
+
+class RadioButtons : public testing::Test {
+ protected:
+  RadioButtons() {
+    session_.Add(ControlKind::kPushButton, 9, "前");
+    for (int id = 1; id <= 4; ++id) session_.Add(ControlKind::kRadioButton, id, "項");
+    session_.At(1).starts_group = true;
+    session_.At(3).starts_group = true;
+    session_.At(1).checked = true;
+    session_.At(4).checked = true;
+  }
+
+  // Does what the platform does on a click, the groups being 1, 2 and 3, 4.
+  void FollowClicks() {
+    session_.handler = [this](const std::string& gesture) {
+      if (gesture.rfind("click ", 0) != 0) return;
+      const int id = std::stoi(gesture.substr(6));
+      for (int other : {id, id % 2 == 1 ? id + 1 : id - 1}) {
+        session_.Change(other, [&](ControlView& view) { view.checked = other == id; });
+      }
+    };
+  }
+
+  std::string Checked(QDialog& window) {
+    std::string checked;
+    for (int id = 1; id <= 4; ++id) {
+      checked += ControlWidget<QRadioButton>(window, id).isChecked() ? '1' : '0';
+    }
+    return checked;
+  }
+
+  FakeSession session_;
+};
+
+TEST_F(RadioButtons, GoBackWhereTheModelDoesNotFollow) {
+  RunWithUser(session_, [&](QDialog& window) {
+    QTest::mouseClick(&ControlWidget<QRadioButton>(window, 2), Qt::LeftButton);
+    EXPECT_THAT(session_.Take(), ElementsAre("focus 2", "click 2"));
+    EXPECT_EQ(Checked(window), "1001");
+  });
+}
+
+TEST_F(RadioButtons, FormGroupsForTheMouseAndTheArrowKeys) {
+  FollowClicks();
+  RunWithUser(session_, [&](QDialog& window) {
+    QTest::mouseClick(&ControlWidget<QRadioButton>(window, 2), Qt::LeftButton);
+    EXPECT_EQ(Checked(window), "0101");
+    session_.Take();
+    QTest::keyClick(window.focusWidget(), Qt::Key_Up);
+    EXPECT_EQ(Checked(window), "1001");
+    EXPECT_THAT(session_.Take(), ElementsAre("click 1"));
+  });
+}
+
+TEST_F(RadioButtons, CanAllBeOff) {
+  RunWithUser(session_, [&](QDialog& window) {
+    session_.Change(1, [](ControlView& view) { view.checked = false; });
+    EXPECT_EQ(Checked(window), "0001");
+    EXPECT_THAT(session_.Take(), ElementsAre());
+  });
+}
+
+TEST(Buttons, SwatchShowsColourAndFrame) {
+  FakeSession session;
+  session.Add(ControlKind::kStatic, kNoControlId, "海岸線");
+  session.Add(ControlKind::kSwatch, 1).swatch = {0x00112233u, std::nullopt};
+  RunWithUser(session, [&](QDialog& window) {
+    auto& swatch = ControlWidget<QPushButton>(window, 1);
+    EXPECT_EQ(MiddleOf(swatch), QColor(0x33, 0x22, 0x11));
+    EXPECT_THAT(swatch.accessibleName().toStdString(), testing::StartsWith("海岸線"));
+    session.Change(1, [](ControlView& view) { view.swatch = {0x000000FFu, 0x00FF0000u}; });
+    const QImage picture = swatch.grab().toImage();
+    EXPECT_EQ(picture.pixelColor(swatch.rect().center()), QColor(255, 0, 0));
+    EXPECT_EQ(picture.pixelColor(0, 0), QColor(0, 0, 255));
+    QTest::mouseClick(&swatch, Qt::LeftButton);
+    EXPECT_THAT(session.Take(), ElementsAre("click 1"));
+  });
+}
+
+TEST(Buttons, GroupBoxLetsClicksThrough) {
+  FakeSession session;
+  session.Add(ControlKind::kPushButton, 1, "中");
+  ControlView& box = session.Add(ControlKind::kGroupBox, 2, "枠&");
+  box.place = {0, 0, 190, 40};
+  RunWithUser(session, [&](QDialog& window) {
+    EXPECT_EQ(ControlWidget<QGroupBox>(window, 2).title(), "枠&&");
+    const auto& button = ControlWidget<QPushButton>(window, 1);
+    EXPECT_EQ(window.childAt(button.mapTo(&window, button.rect().center())), &button);
+  });
+}
+
+TEST(Buttons, HiddenAndDisabledFollowTheModel) {
+  FakeSession session;
+  session.Add(ControlKind::kPushButton, 1, "一").enabled = false;
+  session.Add(ControlKind::kPushButton, 2, "二").visible = false;
+  RunWithUser(session, [&](QDialog& window) {
+    auto& first = ControlWidget<QPushButton>(window, 1);
+    QTest::mouseClick(&first, Qt::LeftButton);
+    EXPECT_FALSE(first.isEnabled());
+    EXPECT_FALSE(ControlWidget<QPushButton>(window, 2).isVisible());
+    session.Change(2, [](ControlView& view) { view.visible = true; });
+    EXPECT_TRUE(ControlWidget<QPushButton>(window, 2).isVisible());
+    EXPECT_THAT(session.Take(), ElementsAre());
+  });
+}
+
+}  // namespace
+}  // namespace orreryui

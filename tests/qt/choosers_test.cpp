@@ -1,0 +1,127 @@
+#include <gmock/gmock.h>
+
+#include <QApplication>
+#include <QColorDialog>
+#include <QDialogButtonBox>
+#include <QFileDialog>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include "tests/qt/plugin.h"
+
+namespace orreryui {
+namespace {
+
+class Choosers : public testing::Test {
+ protected:
+  // The test answers Qt's own choosers, not the desktop's.
+  Choosers() { QApplication::setAttribute(Qt::AA_DontUseNativeDialogs); }
+
+  FrontEnd& front_end_ = *LoadFrontEnd();
+};
+
+class MessageBoxes : public Choosers {};
+
+TEST_F(MessageBoxes, WarnWithOkAndCancelInJapanese) {
+  ThenInFront([](QWidget& front) {
+    auto& box = static_cast<QMessageBox&>(front);
+    EXPECT_EQ(box.icon(), QMessageBox::Warning);
+    EXPECT_EQ(box.text(), "<b>削除しますか？");
+    EXPECT_EQ(box.textFormat(), Qt::PlainText);
+    ASSERT_EQ(box.buttons().size(), 2);
+    EXPECT_EQ(box.defaultButton()->text(), "OK");
+    EXPECT_EQ(box.escapeButton()->text(), "キャンセル");
+    QTest::keyClick(&box, Qt::Key_Return);
+  });
+  EXPECT_EQ(front_end_.ShowMessage("<b>削除しますか？"), MessageBoxAnswer::kOk);
+}
+
+TEST_F(MessageBoxes, EscCloseBoxAndButtonCancel) {
+  const std::vector<std::function<void(QMessageBox&)>> ways = {
+      [](QMessageBox& box) { QTest::keyClick(&box, Qt::Key_Escape); },
+      [](QMessageBox& box) { box.close(); },
+      [](QMessageBox& box) { QTest::mouseClick(box.escapeButton(), Qt::LeftButton); }};
+  for (const auto& way : ways) {
+    ThenInFront([&](QWidget& front) { way(static_cast<QMessageBox&>(front)); });
+    EXPECT_EQ(front_end_.ShowMessage("?"), MessageBoxAnswer::kCancel);
+  }
+}
+
+class FileChooser : public Choosers {
+ protected:
+  FileChooser() {
+    QFile file(folder_.filePath("図.txt"));
+    file.open(QIODevice::WriteOnly);
+    request_.start_name = folder_.filePath("図.txt").toStdString();
+    request_.filters = {{"テキスト", {"*.txt", "*.dat"}}};
+  }
+
+  static void Type(QWidget& front, const QString& name) {
+    auto* const edit = front.findChild<QLineEdit*>("fileNameEdit");
+    edit->selectAll();
+    QTest::keyClicks(edit, name);
+    QTest::keyClick(edit, Qt::Key_Return);
+  }
+
+  std::string InFolder(const QString& name) { return folder_.filePath(name).toStdString(); }
+
+  QTemporaryDir folder_;
+  FileChooserRequest request_;
+};
+
+TEST_F(FileChooser, StartsFromTheNameAndIsJapanese) {
+  request_.must_exist = true;
+  ThenInFront([](QWidget& front) {
+    auto& dialog = static_cast<QFileDialog&>(front);
+    EXPECT_EQ(dialog.findChild<QLineEdit*>("fileNameEdit")->text(), "図.txt");
+    EXPECT_THAT(dialog.nameFilters(), testing::ElementsAre("テキスト (*.txt *.dat)"));
+    EXPECT_EQ(dialog.labelText(QFileDialog::Reject), "キャンセル");
+    static_cast<QDialog&>(front).accept();
+  });
+  EXPECT_EQ(front_end_.ChooseFile(request_), InFolder("図.txt"));
+}
+
+TEST_F(FileChooser, CompletesANewNameWithTheExtension) {
+  request_.default_extension = "dat";
+  ThenInFront([](QWidget& front) { Type(front, "new"); });
+  EXPECT_EQ(front_end_.ChooseFile(request_), InFolder("new.dat"));
+}
+
+TEST_F(FileChooser, TakesAnExistingNameWithoutAQuestion) {
+  ThenInFront([](QWidget& front) { static_cast<QDialog&>(front).accept(); });
+  EXPECT_EQ(front_end_.ChooseFile(request_), InFolder("図.txt"));
+}
+
+TEST_F(FileChooser, WildcardsAreNoName) {
+  request_.start_name = InFolder("*.txt");
+  ThenInFront([](QWidget& front) {
+    auto& dialog = static_cast<QFileDialog&>(front);
+    EXPECT_EQ(dialog.findChild<QLineEdit*>("fileNameEdit")->text(), "*.txt");
+    static_cast<QDialog&>(front).accept();
+    EXPECT_TRUE(dialog.isVisible());
+    dialog.reject();
+  });
+  EXPECT_EQ(front_end_.ChooseFile(request_), std::nullopt);
+}
+
+class ColourChooser : public Choosers {};
+
+TEST_F(ColourChooser, HandsBackTheColourWithRedInTheLowByte) {
+  ThenInFront([](QWidget& front) {
+    auto& dialog = static_cast<QColorDialog&>(front);
+    EXPECT_EQ(dialog.currentColor(), QColor(0x11, 0x22, 0x33));
+    auto* const buttons = dialog.findChild<QDialogButtonBox*>();
+    EXPECT_EQ(buttons->button(QDialogButtonBox::Cancel)->text(), "キャンセル");
+    dialog.setCurrentColor(QColor(1, 2, 3));
+    QTest::mouseClick(buttons->button(QDialogButtonBox::Ok), Qt::LeftButton);
+  });
+  EXPECT_EQ(front_end_.ChooseColour(0x00332211), 0x00030201u);
+  ThenInFront([](QWidget& front) { QTest::keyClick(&front, Qt::Key_Escape); });
+  EXPECT_EQ(front_end_.ChooseColour(0), std::nullopt);
+}
+
+}  // namespace
+}  // namespace orreryui

@@ -1,0 +1,137 @@
+#include <gmock/gmock.h>
+
+#include <QApplication>
+#include <QInputMethodEvent>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QTest>
+#include <QToolTip>
+
+#include "tests/qt/plugin.h"
+
+namespace orreryui {
+namespace {
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+
+constexpr ControlKind kLine = ControlKind::kEdit;
+constexpr ControlKind kLines = ControlKind::kMultiLineEdit;
+
+void Compose(QWidget& widget, const QString& preedit, const QString& commit = {}) {
+  QInputMethodEvent event(preedit, {});
+  event.setCommitString(commit);
+  QApplication::sendEvent(&widget, &event);
+}
+
+TEST(Edits, EachKeyReportsTheWholeText) {
+  FakeSession session;
+  session.Add(kLine, 1, "鎌倉");
+  session.layout.focus = 1;
+  RunWithUser(session, [&](QDialog& window) {
+    auto& edit = ControlWidget<QLineEdit>(window, 1);
+    edit.end(false);
+    QTest::keyClicks(&edit, "12");
+    EXPECT_THAT(session.Take(), ElementsAre("type 1 鎌倉1", "type 1 鎌倉12"));
+    edit.undo();
+    EXPECT_EQ(session.At(1).text, edit.text().toStdString());
+  });
+}
+
+TEST(Edits, RefusedCharactersAreLeftOutAndNamed) {
+  for (ControlKind kind : {kLine, kLines, ControlKind::kComboBox, ControlKind::kSimpleComboBox}) {
+    FakeSession session;
+    session.Add(kind, 1, "abc", 60);
+    session.refused_characters = "x";
+    session.layout.focus = 1;
+    RunWithUser(session, [&](QDialog& window) {
+      QWidget* const edit = QApplication::focusWidget();
+      ASSERT_NE(edit, nullptr);
+      QTest::keyClick(edit, Qt::Key_Home);
+      QTest::keyClick(edit, Qt::Key_Right);
+      QTest::keyClicks(edit, "xy");
+      EXPECT_EQ(session.At(1).text, "aybc");
+      EXPECT_THAT(session.Take(), ElementsAre("type 1 abc", "type 1 aybc"));
+      EXPECT_THAT(QToolTip::text().toStdString(), HasSubstr("x"));
+      const QVariant text = edit->inputMethodQuery(Qt::ImSurroundingText);
+      EXPECT_EQ(text.toString(), "aybc");
+      EXPECT_EQ(edit->inputMethodQuery(Qt::ImCursorPosition).toInt(), 2);
+      static_cast<void>(window);
+    });
+  }
+}
+
+TEST(Edits, CompositionKeepsItsTextAndItsKeys) {
+  for (ControlKind kind : {kLine, kLines}) {
+    FakeSession session;
+    session.Add(kind, 1);
+    session.layout.focus = 1;
+    RunWithUser(session, [&](QDialog& window) {
+      auto& edit = ControlWidget<QWidget>(window, 1);
+      Compose(edit, "やま");
+      QTest::keyClick(&edit, Qt::Key_Return);
+      QTest::keyClick(&edit, Qt::Key_Escape);
+      EXPECT_THAT(session.Take(), ElementsAre());
+      Compose(edit, {}, "山");
+      QTest::keyClick(&edit, Qt::Key_Escape);
+      EXPECT_THAT(session.Take(), ElementsAre("type 1 山", "escape"));
+    });
+  }
+}
+
+TEST(Edits, LinesAreJoinedByCrLf) {
+  FakeSession session;
+  session.Add(kLines, 1, "一\r\n二", 40).tall_scroll_bar = true;
+  session.layout.focus = 1;
+  RunWithUser(session, [&](QDialog& window) {
+    auto& edit = ControlWidget<QPlainTextEdit>(window, 1);
+    EXPECT_EQ(edit.toPlainText(), "一\n二");
+    EXPECT_EQ(edit.verticalScrollBarPolicy(), Qt::ScrollBarAlwaysOn);
+    edit.moveCursor(QTextCursor::End);
+    QTest::keyClick(&edit, Qt::Key_Return);
+    QTest::keyClick(&edit, Qt::Key_3);
+    EXPECT_THAT(session.Take(), ElementsAre("type 1 一\r\n二\r\n", "type 1 一\r\n二\r\n3"));
+    EXPECT_EQ(edit.toPlainText(), "一\n二\n3");
+  });
+}
+
+TEST(Edits, TextSetByAHandlerReplacesWhatWasTyped) {
+  for (ControlKind kind : {kLine, kLines}) {
+    FakeSession session;
+    session.Add(kind, 1);
+    session.layout.focus = 1;
+    RunWithUser(session, [&](QDialog& window) {
+      session.Change(1, [](ControlView& view) { view.text = "登録されました！"; });
+      EXPECT_THAT(session.Take(), ElementsAre());
+      auto& edit = ControlWidget<QWidget>(window, 1);
+      EXPECT_EQ(edit.property(kind == kLine ? "text" : "plainText"), "登録されました！");
+    });
+  }
+}
+
+TEST(Edits, TabGoesOnInTheOrderOfTheControls) {
+  FakeSession session;
+  session.Add(kLines, 3);
+  session.Add(kLine, 1);
+  session.Add(ControlKind::kComboBox, 2);
+  session.layout.focus = 3;
+  RunWithUser(session, [&](QDialog&) {
+    for (int tab = 0; tab < 3; ++tab) QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    EXPECT_THAT(session.Take(), ElementsAre("focus 1", "focus 2", "focus 3"));
+  });
+}
+
+TEST(Edits, AreNamedByTheTextBefore) {
+  FakeSession session;
+  session.Add(ControlKind::kStatic, kNoControlId, "新規ﾌｧｲﾙ");
+  session.Add(kLine, 1);
+  session.Add(ControlKind::kStatic, kNoControlId, "番号");
+  session.Add(ControlKind::kComboBox, 2);
+  RunWithUser(session, [&](QDialog& window) {
+    EXPECT_EQ(ControlWidget<QWidget>(window, 1).accessibleName(), "新規ﾌｧｲﾙ");
+    EXPECT_EQ(ControlWidget<QWidget>(window, 2).accessibleName(), "番号");
+  });
+}
+
+}  // namespace
+}  // namespace orreryui

@@ -1,0 +1,183 @@
+#include <gmock/gmock.h>
+
+#include <QApplication>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTest>
+#include <QTimer>
+
+#include "tests/qt/plugin.h"
+
+namespace orreryui {
+namespace {
+
+using testing::ElementsAre;
+
+TEST(Window, IsNamedTitledAndOfFixedSize) {
+  FakeSession session;
+  session.layout.title = "  凡例";
+  session.Add(ControlKind::kPushButton, 1, "OK");
+  RunWithUser(session, [&](QDialog& window) {
+    EXPECT_EQ(window.objectName(), "700");
+    EXPECT_EQ(window.windowTitle(), "  凡例");
+    EXPECT_EQ(window.minimumSize(), window.maximumSize());
+    EXPECT_TRUE(window.isModal());
+    EXPECT_EQ(session.paints, 1);
+    EXPECT_FALSE(window.testAttribute(Qt::WA_QuitOnClose));
+    session.layout.title = "標高";
+    session.window->RefreshLayout();
+    EXPECT_EQ(window.windowTitle(), "標高");
+  });
+}
+
+TEST(Window, EnterEscAndCloseBecomeGestures) {
+  FakeSession session;
+  session.Add(ControlKind::kPushButton, 1, "OK").is_default = true;
+  session.Add(ControlKind::kPushButton, 2, "他");
+  session.layout.focus = 2;
+  RunWithUser(session, [&](QDialog& window) {
+    auto& other = ControlWidget<QPushButton>(window, 2);
+    EXPECT_TRUE(ControlWidget<QPushButton>(window, 1).isDefault());
+    QTest::keyClick(&other, Qt::Key_Return);
+    QTest::keyClick(&other, Qt::Key_Enter);
+    QTest::keyClick(&other, Qt::Key_Escape);
+    EXPECT_THAT(session.Take(), ElementsAre("enter", "enter", "escape"));
+    EXPECT_FALSE(window.close());
+    EXPECT_TRUE(window.isVisible());
+    EXPECT_THAT(session.Take(), ElementsAre("escape"));
+  });
+}
+
+TEST(Window, NothingIsShownWhereTheDialogEndsAtTheStart) {
+  FakeSession session;
+  session.on_start = [&] { session.ended = true; };
+  EXPECT_TRUE(LoadFrontEnd()->RunDialog(session));
+  EXPECT_EQ(session.paints, 0);
+  EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+}
+
+TEST(Window, NothingFollowsTheEnd) {
+  FakeSession session;
+  session.Add(ControlKind::kPushButton, 1, "OK");
+  session.handler = [&](const std::string& gesture) { session.ended = gesture == "click 1"; };
+  RunWithUser(session, [&](QDialog& window) {
+    QTest::mouseClick(&ControlWidget<QPushButton>(window, 1), Qt::LeftButton);
+    QTest::mouseClick(&ControlWidget<QPushButton>(window, 1), Qt::LeftButton);
+    QTest::keyClick(&window, Qt::Key_Escape);
+    EXPECT_THAT(session.Take(), ElementsAre("click 1"));
+  });
+}
+
+TEST(Window, FocusSetByAHandlerIsShownAndNotReported) {
+  FakeSession session;
+  session.Add(ControlKind::kEdit, 1);
+  session.Add(ControlKind::kEdit, 2);
+  session.layout.focus = 1;
+  RunWithUser(session, [&](QDialog& window) {
+    EXPECT_TRUE(ControlWidget<QLineEdit>(window, 1).hasFocus());
+    session.layout.focus = 2;
+    session.window->RefreshLayout();
+    EXPECT_TRUE(ControlWidget<QLineEdit>(window, 2).hasFocus());
+    session.Change(2, [](ControlView& view) { view.enabled = false; });
+    EXPECT_THAT(session.Take(), ElementsAre());
+  });
+}
+
+TEST(Window, DialogsNestFromInsideAGesture) {
+  FakeSession outer;
+  FakeSession inner;
+  outer.Add(ControlKind::kPushButton, 1, "開く");
+  inner.layout.number = 701;
+  inner.Add(ControlKind::kPushButton, 1, "OK");
+  outer.handler = [&](const std::string& gesture) {
+    if (gesture != "click 1") return;
+    RunWithUser(inner, [&](QDialog& window) {
+      EXPECT_EQ(window.objectName(), "701");
+      EXPECT_EQ(window.parentWidget()->window()->objectName(), "700");
+    });
+  };
+  RunWithUser(outer, [&](QDialog& window) {
+    QTest::mouseClick(&ControlWidget<QPushButton>(window, 1), Qt::LeftButton);
+    EXPECT_TRUE(inner.ended);
+    EXPECT_TRUE(window.isVisible());
+    EXPECT_EQ(QApplication::activeModalWidget(), &window);
+  });
+}
+
+TEST(Window, EndsWhenTheHostQuits) {
+  FakeSession session;
+  session.handler = [&](const std::string& gesture) { session.ended = gesture == "escape"; };
+  QTimer::singleShot(0, [&] {
+    QTimer::singleShot(0, [] { QCoreApplication::exit(3); });
+    LoadFrontEnd()->RunDialog(session);
+  });
+  EXPECT_EQ(QCoreApplication::exec(), 3);
+  EXPECT_THAT(session.Take(), testing::Contains("escape"));
+}
+
+TEST(Window, LeavesTheHostsLoopRunning) {
+  FakeSession session;
+  bool went_on = false;
+  QWidget host;
+  host.show();
+  QTimer::singleShot(0, [&] {
+    host.hide();
+    RunWithUser(session, [](QDialog&) {});
+    QTimer::singleShot(0, [&] {
+      went_on = true;
+      QCoreApplication::exit(0);
+    });
+  });
+  QCoreApplication::exec();
+  EXPECT_TRUE(went_on);
+}
+
+TEST(Window, WaitingTakesNoInputAndPaints) {
+  class Painted : public QObject {
+   public:
+    int times = 0;
+    bool eventFilter(QObject*, QEvent* event) override {
+      times += event->type() == QEvent::Paint;
+      return false;
+    }
+  };
+  FakeSession session;
+  session.Add(ControlKind::kPushButton, 1, "OK");
+  session.Add(ControlKind::kEdit, 2);
+  session.Add(ControlKind::kStatic, 3, "前");
+  RunWithUser(session, [&](QDialog& window) {
+    Painted painted;
+    ControlWidget<QLabel>(window, 3).installEventFilter(&painted);
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
+    painted.times = 0;
+    int asked = 0;
+    LoadFrontEnd()->WaitUntil([&] {
+      if (++asked == 2) {
+        QTest::mouseClick(&ControlWidget<QPushButton>(window, 1), Qt::LeftButton);
+        QTest::keyClicks(&ControlWidget<QLineEdit>(window, 2), "a");
+        QTest::keyClick(&window, Qt::Key_Escape);
+        EXPECT_FALSE(window.close());
+        session.Change(3, [](ControlView& view) { view.text = "後"; });
+      }
+      return asked > 2 && painted.times > 0;
+    });
+    EXPECT_THAT(session.Take(), ElementsAre());
+    QTest::keyClicks(&ControlWidget<QLineEdit>(window, 2), "b");
+    EXPECT_EQ(session.At(2).text, "b");
+  });
+}
+
+TEST(Window, StaysOnTheScreen) {
+  FakeSession session;
+  session.Add(ControlKind::kPushButton, 1, "OK");
+  session.layout.placement = Placement::kAtPixel;
+  session.layout.x = 100000;
+  session.layout.y = -100000;
+  RunWithUser(session, [&](QDialog& window) {
+    EXPECT_TRUE(window.screen()->availableGeometry().contains(window.geometry()));
+  });
+}
+
+}  // namespace
+}  // namespace orreryui
