@@ -1,0 +1,59 @@
+// The list of palettes: the text file "PLTTFILE.DAT" in the folder of the palette files. Each line
+// is a palette's name, $ and its file's name; a palette's number is that of its line, from 0. An
+// empty line ends the list. A line without $ has no name.
+//
+// A palette that the user made is named by its place: number i lies in "Orbis<i + 1>.plt". Lists
+// that were edited by hand may have other files.
+//
+// Folders end in their separator. Whatever changes the disk returns true once all of the change is
+// there; false means that the folder is as it was.
+#ifndef ORRERYUI_APPEARANCE_PALETTE_LIST_H_
+#define ORRERYUI_APPEARANCE_PALETTE_LIST_H_
+
+#include <orreryui/cstring.h>
+
+#include <cstddef>
+#include <string>
+#include <vector>
+
+namespace orreryui {
+
+// As many palettes as are read. Those behind them stay in the list, whatever is done to it.
+inline constexpr std::size_t kMostPalettes = 20;
+
+struct PaletteEntry {
+  CString name;
+  CString file;  // without folder; empty in a damaged line
+};
+
+struct PaletteList {
+  std::vector<PaletteEntry> entries;
+  std::string rest;      // what stands in the file behind the entries, byte for byte
+  bool complete = true;  // false: reading broke off, so that a rewrite would lose lines
+};
+
+PaletteEntry PaletteEntryOf(const CString& line);
+
+// A list that can't be opened has no entries. A line of more than 98 bytes gives several.
+PaletteList ReadPaletteList(const CString& folder);
+
+// One line of the list, whatever stands in front of it. Where the list has fewer lines, the empty
+// text, or the last line if that has no line end.
+CString ReadPaletteLine(const CString& folder, int number);
+
+// The name for the file of a palette that joins the list: "Orbis<n>.plt", where n is the number of
+// entries with a file of that kind, plus 1; if that file exists, the next n that is free.
+CString NewPaletteFile(const CString& folder, const PaletteList& list);
+
+// Adds an entry behind those of `list`, which was read from the folder. The file must exist.
+bool AddPaletteEntry(const CString& folder, const PaletteList& list, const PaletteEntry& entry);
+
+// Removes the entry `number` of `list`, which was read from the folder, and its palette file. The
+// files behind it are renamed, so that each palette that was named by its place still is. Other
+// files keep their names: one that another entry names as well is neither removed nor renamed, and
+// no file takes a name that is in use. If any step fails, the steps before it are taken back.
+bool RemovePaletteEntry(const CString& folder, const PaletteList& list, std::size_t number);
+
+}  // namespace orreryui
+
+#endif  // ORRERYUI_APPEARANCE_PALETTE_LIST_H_
