@@ -29,6 +29,13 @@ extern "C" {
 #pragma clang diagnostic ignored "-Wreturn-type-c-linkage"  // the names are undecorated, not C
 #endif
 
+// Shows which colours the bands of elevation have in a palette of the relief map. Changes nothing.
+//
+//   palette      the number of the palette: its line in "PLTTFILE.DAT", from 0
+//   folder       the folder of the list and the palette files, with its separator
+//   lake_colour  the colour of lakes, 0x00BBGGRR
+ORRERYUI_EXPORT void OnLegendElevetion(int palette, CString folder, int lake_colour);
+
 // Lets the user choose the data file that the host works with, add a name to the list of data files
 // ("BINDER.DAT" in `folder`), take a name off it, and say whether the common area is shown as well.
 // No data file is created, opened or removed.

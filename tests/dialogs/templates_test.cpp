@@ -6,8 +6,10 @@
 #include <vector>
 
 #include "albums/data_source_dialog.h"
+#include "appearance/legend_dialog.h"
 #include "retrieval/range_dialog.h"
 #include "templates/data_source.h"
+#include "templates/legend.h"
 #include "templates/range.h"
 
 namespace orreryui {
@@ -30,6 +32,7 @@ Entry EntryOf(const DialogTemplate& dialog_template) {
 std::vector<Entry> AllTemplates() {
   return {
       EntryOf<CDlgDataSource>(data_source::kTemplate),
+      EntryOf<CDlgLegend>(legend::kTemplate),
       EntryOf<CDlgRange>(range::kTemplate),
   };
 }

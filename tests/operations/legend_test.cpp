@@ -1,0 +1,79 @@
+#include <gtest/gtest.h>
+#include <orreryui/orreryui.h>
+
+#include "platform/front_end_loader.h"
+#include "platform/japanese_literal.h"
+#include "tests/operations/swatches.h"
+#include "tests/operations/test_folder.h"
+
+namespace orreryui {
+namespace {
+
+constexpr char kList[] = "PLTTFILE.DAT";
+constexpr std::uint32_t kLake = 0x123456;
+const std::vector<int> kSwatches = {1109, 1100, 1101, 1102, 1103, 1104,
+                                    1105, 1106, 1107, 1108, 1110};
+// The sea, then 0 m to 4,000 m as level * 1, 0, 0.
+constexpr char kThreeRows[] =
+    ";comment\r\n   0   0   0 200\r\n   1   1   0   0\r\n4000 255   0   0    4,000m\r\n";
+const std::vector<SwatchColour> kThreeRowColours = {0xC80000, 1,   6,   13,  33,   66,
+                                                    100,      133, 166, 200, kLake};
+
+class LegendTest : public testing::Test {
+ protected:
+  void Call(int palette, std::uint32_t lake, const char* name,
+            const std::vector<SwatchColour>& colours) {
+    ScriptFrontEnd script;
+    script.OpensDialog(158).ShowsTitle("  凡例（標高の区分)").Shows(1121, name);
+    script.Does(ShowsSwatches(kSwatches, colours)).Click(1);
+    ScopedFrontEnd scope(&script);
+    OnLegendElevetion(palette, folder.Argument(), static_cast<int>(lake));
+    EXPECT_EQ(script.Failures(), "") << palette;
+  }
+
+  TestFolder folder;
+  const std::vector<SwatchColour> empty = std::vector<SwatchColour>(11);
+};
+
+TEST_F(LegendTest, ShowsTheBandsBetweenTheRowsOfThePalette) {
+  folder.Write(kList, std::string("x$none\r\n自然|色$Orbis2.plt\r\n"_sj));
+  folder.Write("ORBIS2.PLT", kThreeRows);
+  Call(1, kLake, "自然|色", kThreeRowColours);
+  std::vector<SwatchColour> other_lake = kThreeRowColours;
+  other_lake.back() = 0xFF0000;
+  Call(1, 0xFFFF0000, "自然|色", other_lake);
+}
+
+TEST_F(LegendTest, WithoutAPaletteTheSwatchesAreEmpty) {
+  std::vector<SwatchColour> lake_only = empty;
+  lake_only.back() = kLake;
+  Call(0, kLake, "", empty);
+  folder.Write(kList, "a$none\r\n\r\nc$p\r\n");
+  folder.Write("p", kThreeRows);
+  Call(0, kLake, "a", lake_only);
+  Call(1, kLake, "", empty);
+  Call(2, kLake, "c", kThreeRowColours);
+  Call(3, kLake, "", empty);
+  Call(-1, kLake, "", empty);
+  folder.Write(kList, "a$none\r\nc$p");
+  Call(99, kLake, "c", kThreeRowColours);
+}
+
+TEST_F(LegendTest, OneRowGivesBlackBands) {
+  folder.Write(kList, "a$p");
+  folder.Write("p", " 100   9   9   9\r\n");
+  std::vector<SwatchColour> black(11, 0u);
+  black.back() = kLake;
+  Call(0, kLake, "a", black);
+}
+
+TEST_F(LegendTest, EscEndsIt) {
+  ScriptFrontEnd script;
+  script.OpensDialog(158).Paint().Escape();
+  ScopedFrontEnd scope(&script);
+  OnLegendElevetion(0, folder.Argument(), 0);
+  EXPECT_EQ(script.Failures(), "");
+}
+
+}  // namespace
+}  // namespace orreryui
