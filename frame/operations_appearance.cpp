@@ -1,8 +1,34 @@
 #include <orreryui/orreryui.h>
 
 #include "appearance/legend_dialog.h"
+#include "appearance/palette_dialog.h"
+#include "frame/result_string.h"
 
 namespace orreryui {
+namespace {
+
+void AddColour(ResultString& result, COLORREF colour) {
+  result.Number(Red(colour)).Number(Green(colour)).Number(Blue(colour));
+}
+
+}  // namespace
+
+CString OnMapPalleteSet(int selected, CString editor, CString folder, int, int lake_colour,
+                        int background_colour) {
+  CDlgPalette dialog;
+  dialog.m_nSelect = selected;
+  dialog.m_strEditor = editor;
+  dialog.m_strDir = folder;
+  dialog.m_crLake = ColourOfArgument(lake_colour);
+  dialog.m_crBack = ColourOfArgument(background_colour);
+  if (dialog.DoModal() != IDOK) return CString();
+  ResultString result;
+  result.Number(dialog.m_nSelect);
+  AddColour(result, dialog.m_crSea);
+  AddColour(result, dialog.m_crLake);
+  AddColour(result, dialog.m_crBack);
+  return result.End("");
+}
 
 void OnLegendElevetion(int palette, CString folder, int lake_colour) {
   CDlgLegend dialog;

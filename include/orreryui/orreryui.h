@@ -29,6 +29,25 @@ extern "C" {
 #pragma clang diagnostic ignored "-Wreturn-type-c-linkage"  // the names are undecorated, not C
 #endif
 
+// Lets the user choose a palette of the relief map, change its colours, register, update or delete
+// one, or open its file in a text editor. The palettes are listed in "PLTTFILE.DAT" in `folder`,
+// and each has a text file there; what the user saves or deletes is on the disk at once. The list
+// must exist for a palette to be registered.
+//
+//   selected           the number of the palette chosen so far: its line in the list, from 0. Comes
+//                      back unchanged if the list has no such line and the user picks none.
+//   editor             the command of the text editor; the palette file's path is put behind it
+//   folder             the folder of the palettes, with its separator
+//   sea_colour         not used: the sea is part of the palette
+//   lake_colour        the colours of lakes and of the map's background, 0x00BBGGRR
+//   background_colour
+//
+// Returns the number of the chosen palette, and red, green and blue (0 to 255) of the sea, of the
+// lakes and of the background: ten numbers. The sea is the palette's as it was when it was loaded,
+// without what the user changed since.
+ORRERYUI_EXPORT CString OnMapPalleteSet(int selected, CString editor, CString folder,
+                                        int sea_colour, int lake_colour, int background_colour);
+
 // Shows which colours the bands of elevation have in a palette of the relief map. Changes nothing.
 //
 //   palette      the number of the palette: its line in "PLTTFILE.DAT", from 0

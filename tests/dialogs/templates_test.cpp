@@ -7,9 +7,11 @@
 
 #include "albums/data_source_dialog.h"
 #include "appearance/legend_dialog.h"
+#include "appearance/palette_dialog.h"
 #include "retrieval/range_dialog.h"
 #include "templates/data_source.h"
 #include "templates/legend.h"
+#include "templates/palette.h"
 #include "templates/range.h"
 
 namespace orreryui {
@@ -33,6 +35,7 @@ std::vector<Entry> AllTemplates() {
   return {
       EntryOf<CDlgDataSource>(data_source::kTemplate),
       EntryOf<CDlgLegend>(legend::kTemplate),
+      EntryOf<CDlgPalette>(palette::kTemplate),
       EntryOf<CDlgRange>(range::kTemplate),
   };
 }
