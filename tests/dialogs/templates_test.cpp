@@ -8,11 +8,13 @@
 #include "albums/data_source_dialog.h"
 #include "appearance/legend_dialog.h"
 #include "appearance/palette_dialog.h"
+#include "appearance/region_dialog.h"
 #include "retrieval/range_dialog.h"
 #include "templates/data_source.h"
 #include "templates/legend.h"
 #include "templates/palette.h"
 #include "templates/range.h"
+#include "templates/region.h"
 
 namespace orreryui {
 namespace {
@@ -37,6 +39,7 @@ std::vector<Entry> AllTemplates() {
       EntryOf<CDlgLegend>(legend::kTemplate),
       EntryOf<CDlgPalette>(palette::kTemplate),
       EntryOf<CDlgRange>(range::kTemplate),
+      EntryOf<CDlgRegion>(region::kTemplate),
   };
 }
 
