@@ -1,6 +1,7 @@
 #include <orreryui/orreryui.h>
 
 #include "appearance/legend_dialog.h"
+#include "appearance/map_type_dialog.h"
 #include "appearance/palette_dialog.h"
 #include "frame/result_string.h"
 
@@ -12,6 +13,30 @@ void AddColour(ResultString& result, COLORREF colour) {
 }
 
 }  // namespace
+
+CString OnMapTypeSet(int palette, int kind, int fill, int coast, int coast_on_tint, CString folder,
+                     CString region) {
+  MapTypeSettings given = UnpackMapType(kind, fill, coast);
+  given.m_nPalette = palette;
+  given.m_nCoastOnTint = coast_on_tint;
+  given.m_strRegion = region;
+  CDlgMapType dialog;
+  static_cast<MapTypeSettings&>(dialog) = given;
+  dialog.m_strDir = folder;
+  if (dialog.DoModal() != IDOK) return CString();
+  return ResultString()
+      .Number(MapTypeDiffers(dialog, given) ? 1 : -1)
+      .Number(dialog.m_nPalette)
+      .Number(dialog.m_nMapKind)
+      .Number(dialog.m_nTint)
+      .Number(dialog.m_nMethod)
+      .Number(0)
+      .Number(dialog.m_nPrefProjection)
+      .Number(dialog.m_nCoastTopo)
+      .Number(dialog.m_nCoastPref)
+      .Number(HostProjection(dialog.m_nJapanProjection))
+      .End(dialog.m_strRegion);
+}
 
 CString OnMapPalleteSet(int selected, CString editor, CString folder, int, int lake_colour,
                         int background_colour) {

@@ -29,6 +29,34 @@ extern "C" {
 #pragma clang diagnostic ignored "-Wreturn-type-c-linkage"  // the names are undecorated, not C
 #endif
 
+// Lets the user choose what the map shows: its kind, blank or hypsometric tint map, palette, fill
+// method, coastline colour and projections, and for the map by prefecture the region. The palettes
+// are those listed in "PLTTFILE.DAT" in `folder`. No file is written. Indices count from 0, in the
+// order of the dialog's lists; one that its list doesn't hold comes back unchanged if the user
+// picks none.
+//
+//   palette        the number of the palette: its line in the list, from 0
+//   kind           10 * J + K. K is the kind of the map: 1 topographic map 1:200000, 2 archipelago,
+//                  3 by prefecture. J is the projection of the archipelago: 0 Sanson, 2 Albers (1
+//                  is understood as 2).
+//   fill           10000 * P + T. P is the projection of the map by prefecture: 0 Sanson, 1
+//                  equirectangular. T is 0 for a blank map and 1 for a tint map. The hundreds and
+//                  thousands aren't used.
+//   coast          10000 * C3 + 100 * C1 + M: the indices of the coastline colours of kinds 3 and
+//   1,
+//                  and of the fill method
+//   coast_on_tint  1: a tint map has a coastline colour too; otherwise a blank map alone has one
+//   folder         the folder of the palettes, with its separator
+//   region         one number for the whole of Japan and one for each prefecture in the order of
+//   JIS
+//                  X 0401, 1 for those that are chosen and 0 for the others, each with a bar behind
+//                  it; then "1" if one alone is to be chosen, anything else if several may be
+//
+// Returns ten numbers and a text: 1 if something other than a coastline colour has changed, else
+// -1; palette; K; T; M; 0; P; C1; C3; J; region. A region that the user chose ends in "1".
+ORRERYUI_EXPORT CString OnMapTypeSet(int palette, int kind, int fill, int coast, int coast_on_tint,
+                                     CString folder, CString region);
+
 // Lets the user choose a palette of the relief map, change its colours, register, update or delete
 // one, or open its file in a text editor. The palettes are listed in "PLTTFILE.DAT" in `folder`,
 // and each has a text file there; what the user saves or deletes is on the disk at once. The list

@@ -7,11 +7,13 @@
 
 #include "albums/data_source_dialog.h"
 #include "appearance/legend_dialog.h"
+#include "appearance/map_type_dialog.h"
 #include "appearance/palette_dialog.h"
 #include "appearance/region_dialog.h"
 #include "retrieval/range_dialog.h"
 #include "templates/data_source.h"
 #include "templates/legend.h"
+#include "templates/map_type.h"
 #include "templates/palette.h"
 #include "templates/range.h"
 #include "templates/region.h"
@@ -37,6 +39,7 @@ std::vector<Entry> AllTemplates() {
   return {
       EntryOf<CDlgDataSource>(data_source::kTemplate),
       EntryOf<CDlgLegend>(legend::kTemplate),
+      EntryOf<CDlgMapType>(map_type::kTemplate),
       EntryOf<CDlgPalette>(palette::kTemplate),
       EntryOf<CDlgRange>(range::kTemplate),
       EntryOf<CDlgRegion>(region::kTemplate),
