@@ -1,5 +1,8 @@
 #include "host/operation.h"
 
+#include <cstdlib>
+#include <map>
+
 namespace orreryui::host {
 
 std::string UsageOf(const Operation& operation) {
@@ -26,10 +29,17 @@ std::vector<std::string> FieldsOf(const Operation& operation, const std::string&
 std::vector<std::string> NextValues(const Operation& operation, std::vector<std::string> values,
                                     const std::string& result) {
   const std::vector<std::string> texts = FieldsOf(operation, result);
+  std::map<std::size_t, long long> sums;
   for (std::size_t i = 0; i < texts.size(); ++i) {
-    const auto argument = operation.fields[i].next_argument;
-    if (argument) values.at(*argument) = texts[i];
+    const Field& field = operation.fields[i];
+    if (!field.next_argument) continue;
+    if (field.factor == 0) {
+      values.at(*field.next_argument) = texts[i];
+    } else {
+      sums[*field.next_argument] += std::atoll(texts[i].c_str()) * field.factor;
+    }
   }
+  for (const auto& [argument, sum] : sums) values.at(argument) = std::to_string(sum);
   return values;
 }
 

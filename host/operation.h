@@ -23,11 +23,13 @@ struct Argument {
 };
 
 // A field of a result. The sample host keeps the value of a field that gives an argument its next
-// value, and passes it in at the next call.
+// value, and passes it in at the next call. Several numbers may share an argument, each with its
+// factor: the next value is then the sum of the numbers times their factors.
 struct Field {
   std::string name;
   std::string meaning;
   std::optional<std::size_t> next_argument;  // its index
+  int factor = 0;                            // 0: the field is the argument's whole value
 };
 
 // What became of a call. Where `error` isn't empty the operation wasn't called.

@@ -54,6 +54,13 @@ TEST(OperationTest, KeepsWhatItHandsBack) {
   EXPECT_THAT(NextValues(Joining(), {"1", "a"}, ""), ElementsAre("1", "a"));
 }
 
+TEST(OperationTest, KeepsNumbersThatShareAnArgument) {
+  Operation join = Joining();
+  join.fields = {{"tens", "", 0, 10}, {"ones", "", 0, 1}};
+  EXPECT_THAT(NextValues(join, {"1", "a"}, "2|-3"), ElementsAre("17", "a"));
+  EXPECT_THAT(NextValues(join, {"1", "a"}, ""), ElementsAre("1", "a"));
+}
+
 TEST(OperationTest, DescribesEveryArgumentOfTheOperations) {
   for (const Operation& operation : Operations()) {
     EXPECT_EQ(operation.arguments.size(), operation.argument_types.size()) << operation.name;
