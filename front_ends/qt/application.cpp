@@ -3,6 +3,7 @@
 #include <link.h>
 
 #include <QApplication>
+#include <QFontMetrics>
 #include <QLibraryInfo>
 #include <QThread>
 #include <QTranslator>
@@ -10,6 +11,7 @@
 #include <string_view>
 
 #include "front_ends/qt/display_probe.h"
+#include "front_ends/qt/japanese_labels.h"
 #include "front_ends/qt/process_state.h"
 
 namespace orreryui {
@@ -43,11 +45,14 @@ void MakeApplication(const QByteArray& platform) {
   qputenv("FC_LANG", "ja");  // of glyphs that Chinese and Japanese share, the Japanese ones
   auto* application = new QApplication(argument_count, arguments);
   QApplication::setQuitOnLastWindowClosed(false);
-  auto* translator = new QTranslator(application);
-  if (translator->load(QStringLiteral("qtbase_ja"),
-                       QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
-    QCoreApplication::installTranslator(translator);
+  // The font library reads its language once, when it first looks for a glyph.
+  QFontMetrics(QApplication::font()).horizontalAdvance(QStringLiteral("直"));
+  auto* labels = new QTranslator(application);
+  if (!labels->load(QStringLiteral("qtbase_ja"),
+                    QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
+    labels = new JapaneseLabels(application);
   }
+  QCoreApplication::installTranslator(labels);
 }
 
 }  // namespace

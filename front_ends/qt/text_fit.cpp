@@ -1,6 +1,7 @@
 #include "front_ends/qt/text_fit.h"
 
 #include <QFontMetrics>
+#include <QRegularExpression>
 #include <QStringList>
 #include <QTextLayout>
 #include <QTextOption>
@@ -30,15 +31,19 @@ constexpr qreal kUnbounded = 1e6;
 }  // namespace
 
 QString BreakLines(const QString& text, const QFont& font, int width) {
+  static const QRegularExpression kGap(QStringLiteral("\\s{2,}"));
   QStringList lines;
   for (const QString& paragraph : text.split(QLatin1Char('\n'))) {
     if (TextSize(paragraph, font).width() <= width) {
       lines << paragraph;
       continue;
     }
-    ForEachLine(paragraph, font, width, [&](const QTextLine& line) {
-      lines << paragraph.mid(line.textStart(), line.textLength()).trimmed();
-    });
+    // A gap of several blanks is where the author of the text means it to break.
+    for (const QString& part : paragraph.split(kGap, Qt::SkipEmptyParts)) {
+      ForEachLine(part, font, width, [&](const QTextLine& line) {
+        lines << part.mid(line.textStart(), line.textLength()).trimmed();
+      });
+    }
   }
   return lines.join(QLatin1Char('\n'));
 }

@@ -7,6 +7,7 @@
 #include <unistd.h>
 
 #include <QApplication>
+#include <QLabel>
 #include <QTemporaryDir>
 #include <QThread>
 #include <clocale>
@@ -27,11 +28,12 @@ namespace orreryui {
 namespace {
 
 // A host's main program: it ends the process with 0 if all was well. The test also fails if the
-// host prints anything.
+// host prints anything, but for what the platform without a screen says of itself.
 template <typename Host>
 void ExpectQuiet(Host host) {
   GTEST_FLAG_SET(death_test_style, "fast");
-  EXPECT_EXIT(std::exit(host() ? 0 : 1), testing::ExitedWithCode(0), "^$");
+  EXPECT_EXIT(std::exit(host() ? 0 : 1), testing::ExitedWithCode(0),
+              "^(This plugin does not support [a-zA-Z]+\\(\\)\n)*$");
 }
 
 void SetVariables(const char* platform, const char* display) {
@@ -172,6 +174,41 @@ TEST(Process, StaysAsItWasAroundADialog) {
     return RunOnce() && std::string(std::setlocale(LC_ALL, nullptr)) == "C" &&
            variables() == before && handler() == handler_before &&
            std::filesystem::current_path() == folder;
+  });
+}
+
+TEST(Process, GlyphsAreJapaneseWhateverTheHostsLanguage) {
+  const QTemporaryDir pictures;
+  for (const char* language : {"ja_JP.UTF-8", "zh_CN.UTF-8"}) {
+    ExpectQuiet([&] {
+      SetVariables("offscreen", nullptr);
+      setenv("LC_ALL", language, 1);
+      FakeSession session;
+      session.Add(ControlKind::kStatic, 1, "直骨海角", 30);
+      bool saved = false;
+      if (LoadFrontEnd() == nullptr) return false;
+      RunWithUser(session, [&](QDialog& window) {
+        saved = ControlWidget<QWidget>(window, 1).grab().save(pictures.filePath(language), "PNG");
+      });
+      return saved;
+    });
+  }
+  const QImage japanese(pictures.filePath("ja_JP.UTF-8"));
+  EXPECT_FALSE(japanese.isNull());
+  EXPECT_EQ(japanese, QImage(pictures.filePath("zh_CN.UTF-8")));
+}
+
+TEST(Process, QtsOwnChoosersAreJapanese) {
+  ExpectQuiet([] {
+    SetVariables("offscreen", nullptr);
+    FrontEnd* const front_end = LoadFrontEnd();
+    QStringList labels;
+    ThenInFront([&](QWidget& front) {
+      for (const QLabel* label : front.findChildren<QLabel*>()) labels << label->text();
+      front.close();
+    });
+    front_end->ChooseColour(0);
+    return labels.filter("赤").size() == 1 && labels.filter("Red").isEmpty();
   });
 }
 
