@@ -96,6 +96,25 @@ ORRERYUI_EXPORT void OnLegendElevetion(int palette, CString folder, int lake_col
 // Returns the index of the chosen entry, common_area, and the entry's text.
 ORRERYUI_EXPORT CString OnDataSourceSet(int selected, CString common_area, CString folder);
 
+// Shows the main text of a text file: its lines up to the first one that reads 999. The user may
+// type into the text, but nothing is written. A file that can't be read shows as an empty one.
+//
+//   file            path of the text file, in code page 932
+//   title1, title2  the caption, with a blank between them
+ORRERYUI_EXPORT void OnTextDisplayDaialog(CString file, CString title1, CString title2);
+
+// Shows a short text in a small window. The user may type into it, but nothing is written. A file
+// that can't be read shows as an empty one.
+//
+//   mode  1: the memo of the file, that is its lines behind the first one that reads 999
+//         2: a preview, its first 16 lines
+//         any other number: `text`, and no file is read
+//   left  left edge of the window in pixels of the screen, 560 pixels below its upper edge. 0 and
+//         less leave the window where it opens of itself.
+//   file  path of the text file, which is shown as well
+//   text  the text to show if `mode` is neither 1 nor 2
+ORRERYUI_EXPORT void OnMemoDisplay(int mode, int left, CString file, CString text);
+
 // Shows the corners of a range that the user drew on the map, and asks what to do with it. The
 // texts are shown as they are, usually degrees with four decimals.
 //

@@ -14,9 +14,11 @@
 #include "templates/data_source.h"
 #include "templates/legend.h"
 #include "templates/map_type.h"
+#include "templates/memo.h"
 #include "templates/palette.h"
 #include "templates/range.h"
 #include "templates/region.h"
+#include "templates/text_view.h"
 
 namespace orreryui {
 namespace {
@@ -43,6 +45,8 @@ std::vector<Entry> AllTemplates() {
       EntryOf<CDlgPalette>(palette::kTemplate),
       EntryOf<CDlgRange>(range::kTemplate),
       EntryOf<CDlgRegion>(region::kTemplate),
+      {memo::kTemplate, {}},
+      {text_view::kTemplate, {}},
   };
 }
 

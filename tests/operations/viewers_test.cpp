@@ -1,0 +1,181 @@
+// The text view and the memo, played on real files.
+#include <gtest/gtest.h>
+#include <orreryui/orreryui.h>
+
+#include <functional>
+
+#include "front_ends/script/script_front_end.h"
+#include "platform/code_page_932.h"
+#include "platform/front_end_loader.h"
+#include "platform/japanese_literal.h"
+#include "tests/operations/test_folder.h"
+
+namespace orreryui {
+namespace {
+
+constexpr char kFile[] = "note.txt";
+const std::string kHead = "=====   =====\r\n";
+
+// A file, and what the viewers make of it, all in code page 932.
+struct Case {
+  const char* what;
+  std::string file;
+  std::string main;
+  std::string memo;     // without the head line
+  std::string preview;  // without the head line
+};
+
+std::string Repeat(int count, const std::string& line) {
+  std::string text;
+  for (int i = 0; i < count; ++i) text += line;
+  return text;
+}
+
+std::vector<Case> Cases() {
+  const std::string japanese = "ｶﾀｶﾅ 鎌倉①\r\n"_sj;
+  const std::string user_defined = "\xF0\x40\xF9\xFC\r\n";
+  const std::string full(3198, 'a');
+  const std::string half_pair = std::string(3197, 'a') + "\x82";
+  return {
+      {"nothing", "", "", "", ""},
+      {"one line end", "\n", "\r\n\r\n", "", "\r\n\r\n"},
+      {"no line end", "a", "a\r\n", "", "a\r\n"},
+      {"main text and memo", "a\r\n999\r\nb\r\nc", "a\r\n", "b\r\nc\r\n", "a\r\n999\r\nb\r\nc\r\n"},
+      {"an empty line behind the last line end", "a\r\n999\r\nb\r\n", "a\r\n", "b\r\n\r\n",
+       "a\r\n999\r\nb\r\n\r\n"},
+      {"the mark twice", "999\n999\n;b\n\nc\n999\nd", "", ";b\r\n\r\nc\r\nd\r\n",
+       "999\r\n999\r\n;b\r\n\r\nc\r\n999\r\nd\r\n"},
+      {"the mark at the end", "a\r\n999", "a\r\n", "", "a\r\n999\r\n"},
+      {"almost the mark", " 999\n999 \n0999\n9990", " 999\r\n999 \r\n0999\r\n9990\r\n", "",
+       " 999\r\n999 \r\n0999\r\n9990\r\n"},
+      {"a comment is text", ";a\r\nM b\r\n\r\n;c", ";a\r\nM b\r\n\r\n;c\r\n", "",
+       ";a\r\nM b\r\n\r\n;c\r\n"},
+      {"half-width katakana, a special character and user-defined ones", japanese + user_defined,
+       japanese + user_defined + "\r\n", "", japanese + user_defined + "\r\n"},
+      {"16 lines", Repeat(15, "a\n") + "b", Repeat(15, "a\r\n") + "b\r\n", "",
+       Repeat(15, "a\r\n") + "b\r\n"},
+      {"16 lines and an empty one", Repeat(16, "a\n"), Repeat(16, "a\r\n") + "\r\n", "",
+       Repeat(16, "a\r\n")},
+      {"3197 bytes", full.substr(1), full.substr(1) + "\r\n", "", full.substr(1) + "\r\n"},
+      {"3198 bytes", full, full + "\r\n", "", full.substr(1) + "\r\na\r\n"},
+      {"3199 bytes", full + "a\r\nb", full + "\r\na\r\nb\r\n", "",
+       full.substr(1) + "\r\naa\r\nb\r\n"},
+      {"a character cut in two", half_pair + "\xA0", half_pair + "\r\n\xA0\r\n", "",
+       half_pair.substr(0, 3197) + "\r\n\x82\xA0\r\n"},
+      {"the rest of a long line is a line", full + "999\nb", full + "\r\n", "b\r\n",
+       full.substr(1) + "\r\na999\r\nb\r\n"},
+      {"bytes that are no text", std::string("a\0b\r\nc\rd\x1A\xFF\x80\n\x81", 13),
+       "a\r\nc\rd\x1A\xFF\x80\r\n\x81\r\n", "", "a\r\nc\rd\x1A\xFF\x80\r\n\x81\r\n"},
+      {"markup", "<b>&amp;</b>\n<img src='x'>", "<b>&amp;</b>\r\n<img src='x'>\r\n", "",
+       "<b>&amp;</b>\r\n<img src='x'>\r\n"},
+  };
+}
+
+class ViewersTest : public testing::Test {
+ protected:
+  CString Path() const { return folder.Argument() + kFile; }
+
+  // What the box shows. The dialog is closed by Esc.
+  std::string Box(int dialog, int id, const std::function<void()>& call) {
+    std::string text;
+    ScriptFrontEnd script;
+    script.OpensDialog(dialog).Does([&text, id](DialogSession& session) {
+      for (int i = 0; i < session.ControlCount(); ++i) {
+        if (session.Control(i).id == id) text = session.Control(i).text;
+      }
+      return "";
+    });
+    script.Escape();
+    ScopedFrontEnd scope(&script);
+    call();
+    EXPECT_EQ(script.Failures(), "");
+    return text;
+  }
+
+  std::string Main(const CString& path) {
+    return Box(152, 1050, [&] { OnTextDisplayDaialog(path, "", ""); });
+  }
+  std::string Memo(int mode, const CString& path, const CString& text) {
+    return Box(133, 101, [&] { OnMemoDisplay(mode, 0, path, text); });
+  }
+
+  TestFolder folder;
+};
+
+TEST_F(ViewersTest, EachShowsItsPartOfTheFile) {
+  for (const Case& one : Cases()) {
+    SCOPED_TRACE(one.what);
+    folder.Write(kFile, one.file);
+    EXPECT_EQ(Main(Path()), ToUtf8(one.main));
+    EXPECT_EQ(Memo(1, Path(), "dropped"), ToUtf8(kHead + one.memo));
+    EXPECT_EQ(Memo(2, Path(), "dropped"), ToUtf8(kHead + one.preview));
+    EXPECT_EQ(folder.Read(kFile), one.file);
+  }
+}
+
+TEST_F(ViewersTest, WhatCannotBeReadIsEmpty) {
+  for (const CString& path : {Path(), CString(), folder.Argument(), CString("\x81|*?")}) {
+    EXPECT_EQ(Main(path), "");
+    EXPECT_EQ(Memo(1, path, "dropped"), kHead);
+    EXPECT_EQ(Memo(2, path, "dropped"), kHead);
+  }
+}
+
+TEST_F(ViewersTest, AnyOtherModeShowsTheTextOfTheCaller) {
+  folder.Write(kFile, "a\n999\nb");
+  const std::string text = "メモ|%s\n999\r\n";
+  for (const int mode : {0, 3, -1}) EXPECT_EQ(Memo(mode, Path(), "メモ|%s\n999\r\n"_sj), text);
+}
+
+TEST_F(ViewersTest, TheTextViewShowsCaptionAndPathAndDropsWhatIsTyped) {
+  const std::string name = "ｶﾀｶﾅ ソ.txt";
+  folder.Write(name, "a");
+  const CString path = folder.Argument() + "ｶﾀｶﾅ ソ.TXT"_sj;
+  ScriptFrontEnd script;
+  script.OpensDialog(152).ShowsTitle("<b>東京</b> %s ｶﾞｲﾄﾞ").Shows(1051, ToUtf8(path));
+  script.Shows(1050, "a\r\n").Enter().Shows(1050, "a\r\n\r\n").Type(1050, "b").Click(1);
+  script.OpensDialog(152).ShowsTitle(" ").Shows(1050, "a\r\n").Focus(1).Enter();
+  script.OpensDialog(152).ShowsTitle(" ").Click(1);
+  ScopedFrontEnd scope(&script);
+  OnTextDisplayDaialog(path, "<b>東京</b>"_sj, "%s ｶﾞｲﾄﾞ"_sj);
+  OnTextDisplayDaialog(path, "", "");
+  OnTextDisplayDaialog("", "", "");
+  EXPECT_EQ(script.Failures(), "");
+  EXPECT_EQ(folder.Read(name), "a");
+}
+
+TEST_F(ViewersTest, TheMemoOpensWhereTheCallerWantsIt) {
+  struct Place {
+    int left;
+    Placement placement;
+    int x;
+    int y;
+  };
+  const Place places[] = {{1, Placement::kAtPixel, 1, 560},
+                          {700, Placement::kAtPixel, 700, 560},
+                          {0, Placement::kAtPosition, 5, 267},
+                          {-5, Placement::kAtPosition, 5, 267}};
+  for (const Place& place : places) {
+    ScriptFrontEnd script;
+    script.OpensDialog(133).ShowsTitle("    メモ（連絡先／画像説明）").Shows(102, "no\\such");
+    script.Does([place](DialogSession& session) {
+      const DialogLayout layout = session.Layout();
+      const bool right =
+          layout.placement == place.placement && layout.x == place.x && layout.y == place.y;
+      return right ? "" : "wrong place";
+    });
+    script.Type(101, "typed").Click(1);
+    ScopedFrontEnd scope(&script);
+    OnMemoDisplay(0, place.left, "no\\such", "text");
+    EXPECT_EQ(script.Failures(), "");
+  }
+}
+
+TEST_F(ViewersTest, WithoutAWindowNothingHappens) {
+  ScopedFrontEnd scope(nullptr);
+  OnTextDisplayDaialog("a", "b", "c");
+  OnMemoDisplay(1, 0, "a", "");
+}
+
+}  // namespace
+}  // namespace orreryui
