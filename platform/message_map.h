@@ -15,12 +15,14 @@ enum class Event {
 };
 
 // One row of the message map of the dialog class D: a control, or the controls with the numbers
-// from `first` to `last`, whose handler then learns the number.
+// from `first` to `last`. A handler that serves several controls learns the number.
 template <class D>
 class Message {
  public:
   constexpr Message(int id, Event event, void (D::*handler)())
       : first_(id), last_(id), event_(event), handler_(handler) {}
+  constexpr Message(int id, Event event, void (D::*handler)(int id))
+      : first_(id), last_(id), event_(event), range_handler_(handler) {}
   constexpr Message(int first, int last, Event event, void (D::*handler)(int id))
       : first_(first), last_(last), event_(event), range_handler_(handler) {}
 
