@@ -1,0 +1,38 @@
+#include "frame/choose_open_file.h"
+
+#include "frame/split.h"
+#include "platform/code_page_932.h"
+#include "platform/inner_windows.h"
+#include "platform/path.h"
+
+namespace orreryui {
+namespace {
+
+FileFilter MakeFilter(CString filter) {
+  const CString label = TakeField(filter, '|');
+  return {ToUtf8(label), {ToUtf8(filter)}};
+}
+
+// Names without a dot are among them, too.
+FileFilter AllFiles() { return {"All files (*.*)", {"*"}}; }
+
+}  // namespace
+
+CString ChooseOpenFile(const char* default_extension, const char* start_name, const char* filter) {
+  MessageBeep();
+  const auto native = ChooseFile({.start_name = ToUtf8(start_name),
+                                  .default_extension = ToUtf8(default_extension),
+                                  .must_exist = true,
+                                  .filters = {MakeFilter(filter), AllFiles()}});
+  if (!native) return CString();
+  const auto chosen = PathFromNative(*native);
+  if (!chosen) {
+    MessageBeep();
+    return CString();
+  }
+  CString path = chosen->c_str();
+  path.MakeLower();
+  return path;
+}
+
+}  // namespace orreryui
