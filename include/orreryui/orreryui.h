@@ -83,6 +83,21 @@ ORRERYUI_EXPORT CString OnMapPalleteSet(int selected, CString editor, CString fo
 //   lake_colour  the colour of lakes, 0x00BBGGRR
 ORRERYUI_EXPORT void OnLegendElevetion(int palette, CString folder, int lake_colour);
 
+// Lets the user make an album of a point on the map: name the point, and tie text files and
+// pictures with short memos to it. Each of these is a line of the album file at once, and stays
+// there when the user gives up. The first one makes the file, or takes the place of what it held;
+// without any, no file is touched.
+//
+//   code                 comes back unchanged
+//   longitude, latitude  of the point, as text; the user may change them
+//   album_file           full path of the album file
+//   album_number         is shown, and nothing else
+//
+// Returns code, longitude, latitude, and the point's name and item, or "4||||" unless the user
+// ended the registration.
+ORRERYUI_EXPORT CString OnDLLAlbumRegist(int code, CString longitude, CString latitude,
+                                         CString album_file, CString album_number);
+
 // Lets the user choose the data file that the host works with, add a name to the list of data files
 // ("BINDER.DAT" in `folder`), take a name off it, and say whether the common area is shown as well.
 // No data file is created, opened or removed.

@@ -5,12 +5,14 @@
 #include <set>
 #include <vector>
 
+#include "albums/album_regist_dialog.h"
 #include "albums/data_source_dialog.h"
 #include "appearance/legend_dialog.h"
 #include "appearance/map_type_dialog.h"
 #include "appearance/palette_dialog.h"
 #include "appearance/region_dialog.h"
 #include "retrieval/range_dialog.h"
+#include "templates/album_regist.h"
 #include "templates/data_source.h"
 #include "templates/legend.h"
 #include "templates/map_type.h"
@@ -39,6 +41,7 @@ Entry EntryOf(const DialogTemplate& dialog_template) {
 
 std::vector<Entry> AllTemplates() {
   return {
+      EntryOf<CDlgAlbumRegist>(album_regist::kTemplate),
       EntryOf<CDlgDataSource>(data_source::kTemplate),
       EntryOf<CDlgLegend>(legend::kTemplate),
       EntryOf<CDlgMapType>(map_type::kTemplate),
