@@ -98,6 +98,31 @@ ORRERYUI_EXPORT void OnLegendElevetion(int palette, CString folder, int lake_col
 ORRERYUI_EXPORT CString OnDLLAlbumRegist(int code, CString longitude, CString latitude,
                                          CString album_file, CString album_number);
 
+// Shows an album: the texts of its point, which the user may change, and its data, which the user
+// may edit in an external text editor. The user may also ask for the album's deletion; no file is
+// removed.
+//
+//   code                 a number of the host's. 0 means that changed texts aren't told apart from
+//                        others; with -1, giving up can't be told from a deletion.
+//   state                "new" makes the album file, or empties it; any other word reads it
+//   album_file           full path of the album file
+//   place, item          name and item of the album's point
+//   longitude, latitude  of the point, as text
+//   editor               the command that starts the editor; the path of the album file goes
+//                        behind it
+//
+// Returns, by the user's decision:
+//
+//   to store the texts  code, 1 (2 if code is 0), and the point's place, latitude, longitude and
+//                       item as the user left them, with a blank behind each
+//   to end              0, 2, and the point as it came in
+//   to delete           code and 3
+//
+// The empty string if the user gave up.
+ORRERYUI_EXPORT CString OnAlbumUpdate(int code, CString state, CString album_file, CString place,
+                                      CString item, CString longitude, CString latitude,
+                                      CString editor);
+
 // Lets the user choose the data file that the host works with, add a name to the list of data files
 // ("BINDER.DAT" in `folder`), take a name off it, and say whether the common area is shown as well.
 // No data file is created, opened or removed.

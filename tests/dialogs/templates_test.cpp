@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "albums/album_regist_dialog.h"
+#include "albums/album_update_dialog.h"
 #include "albums/data_source_dialog.h"
 #include "appearance/legend_dialog.h"
 #include "appearance/map_type_dialog.h"
@@ -13,6 +14,7 @@
 #include "appearance/region_dialog.h"
 #include "retrieval/range_dialog.h"
 #include "templates/album_regist.h"
+#include "templates/album_update.h"
 #include "templates/data_source.h"
 #include "templates/legend.h"
 #include "templates/map_type.h"
@@ -42,6 +44,7 @@ Entry EntryOf(const DialogTemplate& dialog_template) {
 std::vector<Entry> AllTemplates() {
   return {
       EntryOf<CDlgAlbumRegist>(album_regist::kTemplate),
+      EntryOf<CDlgAlbumUpdate>(album_update::kTemplate),
       EntryOf<CDlgDataSource>(data_source::kTemplate),
       EntryOf<CDlgLegend>(legend::kTemplate),
       EntryOf<CDlgMapType>(map_type::kTemplate),

@@ -1,0 +1,242 @@
+#include <gtest/gtest.h>
+#include <orreryui/orreryui.h>
+#include <sys/stat.h>
+
+#include "front_ends/script/script_front_end.h"
+#include "platform/code_page_932.h"
+#include "platform/front_end_loader.h"
+#include "platform/japanese_literal.h"
+#include "tests/operations/test_folder.h"
+
+namespace orreryui {
+namespace {
+
+constexpr char kAlbum[] = "a.alb";
+
+std::string Lines(int first, int last) {
+  std::string lines;
+  for (int i = first; i <= last; ++i) lines += "p" + std::to_string(i) + " 1 2 i f.txt\r\n";
+  return lines;
+}
+
+class AlbumUpdateTest : public testing::Test {
+ protected:
+  // The result in UTF-8, for an album in the folder of the test.
+  std::string Call(ScriptFrontEnd& visit, int code = 7, const char* state = "old",
+                   const std::string& editor = "") const {
+    return CallWith(visit, code, state, folder.Argument() + kAlbum, editor);
+  }
+
+  static std::string CallWith(ScriptFrontEnd& visit, int code, const char* state,
+                              const CString& album, const std::string& editor = "") {
+    ScopedFrontEnd scope(&visit);
+    const CString result =
+        OnAlbumUpdate(code, state, album, "鎌倉"_sj, "寺 社"_sj, "139.5", "35.3", editor.c_str());
+    EXPECT_EQ(visit.Failures(), "");
+    return ToUtf8(result);
+  }
+
+  std::string PathOf(const std::string& name) const { return (folder.Path() / name).string(); }
+
+  // A program that does these commands with the path of the album as $1.
+  std::string MakeEditor(const std::string& name, const std::string& commands) const {
+    folder.Write(name, "#!/bin/sh\n" + commands + "\n");
+    EXPECT_EQ(chmod(PathOf(name).c_str(), 0755), 0);
+    return PathOf(name);
+  }
+
+  TestFolder folder;
+};
+
+TEST_F(AlbumUpdateTest, TheEndTellsTheHostWhatToDo) {
+  constexpr char kPoint[] = "鎌倉 35.3 139.5 寺 社 ";
+  const struct {
+    int code;
+    int button;
+    std::string untouched, changed;  // the results without and with another place name
+  } cases[] = {
+      {7, 1, std::string("7|1|") + kPoint, "7|1|大仏 35.3 139.5 寺 社 "},
+      {0, 1, std::string("0|2|") + kPoint, "0|2|大仏 35.3 139.5 寺 社 "},
+      {-1, 1, std::string("-1|1|") + kPoint, "-1|1|大仏 35.3 139.5 寺 社 "},
+      {7, 103, std::string("0|2|") + kPoint, std::string("0|2|") + kPoint},
+      {7, 121, "7|3|", "7|3|"},
+      {0, 121, "0|3|", "0|3|"},
+      {7, 2, "", ""},
+      {0, 2, "", ""},
+      {-1, 2, "-1|3|", "-1|3|"},
+  };
+  for (const auto& [code, button, untouched, changed] : cases) {
+    SCOPED_TRACE(std::to_string(code) + " " + std::to_string(button));
+    ScriptFrontEnd leaves, changes;
+    leaves.OpensDialog(147).Click(button);
+    EXPECT_EQ(Call(leaves, code), untouched);
+    changes.OpensDialog(147).Type(129, "大仏").Click(button);
+    EXPECT_EQ(Call(changes, code), changed);
+  }
+  ScriptFrontEnd escape;
+  escape.OpensDialog(147).Escape();
+  EXPECT_EQ(Call(escape), "");
+  EXPECT_EQ(folder.Read(kAlbum), std::nullopt);
+}
+
+TEST_F(AlbumUpdateTest, OkReadsTheFourBoxesOfThePointAndNoOther) {
+  folder.Write(kAlbum, "p 1 2 i f.txt\r\n");
+  ScriptFrontEnd script;
+  script.OpensDialog(147).ShowsTitle("  アルバムデータの更新");
+  script.Shows(129, "鎌倉").Shows(130, "寺 社").Shows(132, "35.3").Shows(1000, "139.5");
+  script.Does([](DialogSession& dialog) -> std::string {
+    return dialog.Layout().focus == 106 ? "" : "the focus is elsewhere";
+  });
+  script.Type(129, "a|b").Type(130, "").Type(132, "1").Type(1000, "2").Pick(128, 0);
+  for (const int id : {106, 104, 105, 101}) script.Type(id, "dropped");
+  script.ShowsRows(128, {"p#i"}).Enter();
+  EXPECT_EQ(Call(script), "7|1|a|b 1 2  ");
+  EXPECT_EQ(folder.Read(kAlbum), "p 1 2 i f.txt\r\n");
+}
+
+TEST_F(AlbumUpdateTest, EnterEndsInTheOneLineBoxesAndBreaksLinesInTheOthers) {
+  ScriptFrontEnd script;
+  script.OpensDialog(147);
+  for (const int id : {129, 130, 132, 1000, 106, 104}) script.Focus(id).Enter();
+  script.Shows(106, "\r\n").Focus(105).Enter();
+  EXPECT_EQ(Call(script), "7|1|鎌倉\r\n 35.3\r\n 139.5\r\n 寺 社\r\n ");
+}
+
+TEST_F(AlbumUpdateTest, ARowShowsItsFieldsAndThePreviewItsText) {
+  folder.Write("t.txt", "main\r\n999\r\n");
+  const std::string path = PathOf("t.txt");
+  folder.Write(kAlbum, std::string("ァー 1 2 ァ表 P.JPG "_sj) + path +
+                           "\r\n;c\r\n\r\nMt 1 2 i t\r\n" +
+                           std::string("a 3 4  写真.Bmp\nm@n 3 4 i t.txt p.jpg\nlast"_sj));
+  ScriptFrontEnd script;
+  script.OpensDialog(147).ShowsRows(128, {"ァー#ァ表", "a#", "m", "#"}).Shows(131, "4件");
+  script.ShowsSelection(128, -1).Shows(106, "").Shows(104, "").Shows(105, "").Shows(101, "");
+  script.Shows(1045, "").Click(114);
+  script.Pick(128, 0).Shows(131, "1/4").Shows(106, "ァー").Shows(104, "ァ表");
+  script.Shows(105, path).Shows(101, "P.JPG").Shows(132, "35.3").Shows(1000, "139.5");
+  script.Type(105, "elsewhere").Click(114).OpensDialog(133).Shows(102, path);
+  script.Shows(101, "=====   =====\r\nmain\r\n999\r\n\r\n").Click(1);
+  script.Pick(128, 1).Shows(131, "2/4").Shows(106, "a").Shows(104, "").Shows(105, "");
+  script.Shows(101, "写真.Bmp").Click(114);
+  script.Pick(128, 2).Shows(131, "3/4").Shows(106, "").Shows(104, "m");
+  script.Shows(105, "n#i@t.txt").Shows(101, "p.jpg");
+  script.Pick(128, 3).Shows(106, "").Shows(104, "").Shows(105, "last").Shows(101, "").Click(2);
+  EXPECT_EQ(Call(script), "");
+}
+
+TEST_F(AlbumUpdateTest, NinetyNineLinesAreListed) {
+  for (const int count : {0, 98, 99, 100, 5000}) {
+    folder.Write(kAlbum, Lines(1, count));
+    const int shown = std::min(count, 99);
+    ScriptFrontEnd script;
+    script.OpensDialog(147).Shows(131, std::to_string(shown) + "件");
+    if (shown > 0) {
+      const std::string last = std::to_string(shown);
+      script.Pick(128, shown - 1).Shows(131, last + "/" + last).Shows(106, "p" + last);
+    }
+    script.Click(121);
+    EXPECT_EQ(Call(script), "7|3|");
+    EXPECT_EQ(folder.Read(kAlbum), Lines(1, count));
+  }
+}
+
+TEST_F(AlbumUpdateTest, LinesBehindTheEndMarkerStayUnseen) {
+  folder.Write(kAlbum, Lines(1, 2) + "999\r\n" + Lines(3, 4));
+  ScriptFrontEnd script;
+  script.OpensDialog(147).ShowsRows(128, {"p1#i", "p2#i"}).Shows(131, "2件").Escape();
+  Call(script);
+}
+
+TEST_F(AlbumUpdateTest, ANewAlbumIsEmptyFromTheStart) {
+  for (const char* state : {"new", "New", ""}) {
+    folder.Write(kAlbum, Lines(1, 2));
+    const bool is_new = std::string(state) == "new";
+    ScriptFrontEnd script;
+    script.OpensDialog(147).Shows(131, is_new ? "   件" : "2件");
+    script.ShowsRows(
+        128, is_new ? std::vector<std::string>{} : std::vector<std::string>{"p1#i", "p2#i"});
+    script.Escape();
+    EXPECT_EQ(Call(script, 7, state), "");
+    EXPECT_EQ(folder.Read(kAlbum), is_new ? "" : Lines(1, 2));
+  }
+  ScriptFrontEnd nowhere;
+  nowhere.OpensDialog(147).Shows(131, "   件").Click(103);
+  EXPECT_EQ(CallWith(nowhere, 7, "new", folder.Argument() + "none\\a.alb"),
+            "0|2|鎌倉 35.3 139.5 寺 社 ");
+}
+
+TEST_F(AlbumUpdateTest, AnAlbumThatCannotBeReadIsEmpty) {
+  for (const CString& album : {folder.Argument(), CString(), folder.Argument() + "none"}) {
+    ScriptFrontEnd script;
+    script.OpensDialog(147).Shows(131, "0件").Click(1076).Escape();
+    EXPECT_EQ(CallWith(script, 7, "old", album, "no-such-editor"), "");
+  }
+}
+
+TEST_F(AlbumUpdateTest, TheEditorsChangesAreKeptAndShownAtTheNextCall) {
+  folder.Write(kAlbum, Lines(1, 2));
+  const std::string editor = MakeEditor("my ed", "printf 'new 1 2 i f.txt\\n' > \"$1\"");
+  ScriptFrontEnd script, next;
+  script.OpensDialog(147).Pick(128, 1).Click(1076).ShowsRows(128, {"p1#i", "p2#i"});
+  script.Shows(131, "2/2").Shows(106, "p2").Escape();
+  EXPECT_EQ(Call(script, 7, "old", editor), "");
+  EXPECT_EQ(folder.Read(kAlbum), "new 1 2 i f.txt\n");
+  next.OpensDialog(147).ShowsRows(128, {"new#i"}).Escape();
+  Call(next);
+}
+
+TEST_F(AlbumUpdateTest, NoShellReadsThePathOfTheAlbum) {
+  const std::string editor = MakeEditor("ed", "printf ' edited' >> \"$1\"");
+  for (const std::string name : {"a b.alb", "$(touch x);touch x|touch x&`touch x`'.alb"}) {
+    folder.Write(name, "p");
+    ScriptFrontEnd script;
+    script.OpensDialog(147).Click(1076).Escape();
+    CallWith(script, 7, "old", folder.Argument() + name.c_str(), editor);
+    EXPECT_EQ(folder.Read(name), "p edited");
+  }
+  EXPECT_FALSE(std::filesystem::exists("x"));
+}
+
+TEST_F(AlbumUpdateTest, WithoutAWindowNothingIsTouched) {
+  ScopedFrontEnd no_screen(nullptr);
+  folder.Write(kAlbum, Lines(1, 2));
+  EXPECT_EQ(OnAlbumUpdate(7, "new", folder.Argument() + kAlbum, "", "", "", "", ""), "");
+  EXPECT_EQ(folder.Read(kAlbum), Lines(1, 2));
+}
+
+// From the point on the map to the album that an editor has changed.
+TEST_F(AlbumUpdateTest, AnAlbumIsRegisteredListedEditedAndListedAgain) {
+  const CString album = folder.Argument() + kAlbum;
+  folder.Write("大仏.TXT", std::string("高徳院\r\n999\r\n電話\r\n"_sj));
+  std::string stored = PathOf("大仏.txt");
+  std::replace(stored.begin(), stored.end(), '/', '\\');
+  std::transform(stored.begin(), stored.end(), stored.begin(),
+                 [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c + 32) : c; });
+
+  ScriptFrontEnd registers;
+  registers.OpensDialog(148).Type(101, "鎌倉").Type(104, "散歩");
+  registers.Type(106, "大仏").Type(107, "青銅").Click(109).Beeps().ChoosesFile(PathOf("大仏.TXT"));
+  registers.Shows(108, stored).Type(102, "Daibutsu.jpg").Click(117);
+  registers.Type(106, "長谷寺").Type(102, "Hase.bmp").Click(117);
+  registers.Type(106, "由比ヶ浜").Type(107, "海").Type(108, "umi.txt").Click(117);
+  registers.Shows(1045, "4").Click(1);
+  {
+    ScopedFrontEnd scope(&registers);
+    EXPECT_EQ(ToUtf8(OnDLLAlbumRegist(1, "139.5", "35.3", album, "1")), "1|139.5|35.3|鎌倉|散歩");
+    ASSERT_EQ(registers.Failures(), "");
+  }
+
+  const std::string editor = MakeEditor("ed", "LC_ALL=C sed -i '2s/^[^ ]* /Hasedera /' \"$1\"");
+  ScriptFrontEnd edits, looks;
+  edits.OpensDialog(147).ShowsRows(128, {"大仏#青銅", "長谷寺#", "由比ヶ浜#海"}).Shows(131, "3件");
+  edits.Pick(128, 0).Shows(105, stored).Shows(101, "Daibutsu.jpg").Click(114);
+  edits.OpensDialog(133).Shows(101, "=====   =====\r\n高徳院\r\n999\r\n電話\r\n\r\n").Click(1);
+  edits.Click(1076).Click(1);
+  EXPECT_EQ(Call(edits, 1, "old", editor), "1|1|鎌倉 35.3 139.5 寺 社 ");
+  looks.OpensDialog(147).ShowsRows(128, {"大仏#青銅", "Hasedera#", "由比ヶ浜#海"});
+  looks.Pick(128, 1).Shows(106, "Hasedera").Shows(101, "Hase.bmp").Shows(105, "").Click(103);
+  EXPECT_EQ(Call(looks, 1), "0|2|鎌倉 35.3 139.5 寺 社 ");
+}
+
+}  // namespace
+}  // namespace orreryui
