@@ -180,8 +180,9 @@ class CString {
   std::size_t Size() const noexcept { return static_cast<std::size_t>(GetLength()); }
   void Swap(CString& other) noexcept { std::swap(bytes_, other.bytes_); }
 
+  // Nothing is read behind the NUL.
   int LengthAt(int position) const noexcept {
-    return CharacterLength(bytes_[position], bytes_[position + 1]);
+    return bytes_[position] ? CharacterLength(bytes_[position], bytes_[position + 1]) : 1;
   }
 
   // Whether the characters from `position` on are those of `text`.

@@ -143,6 +143,7 @@ TEST(CString, FindRespectsCharactersAtBothEndsOfTheText) {
   EXPECT_EQ(CString("\x83 a").Find(' '), 1);  // a lead byte without its trail byte
   EXPECT_EQ(CString("a\x83").Find('\x83'), 1);
   EXPECT_EQ(CString("aab").Find("ab"), 1);
+  EXPECT_EQ(CString("a.jp").Find(".jpg"), -1);  // the end of the text begins like it
 }
 
 TEST(CString, ChangesTheCaseOfLettersOnly) {
