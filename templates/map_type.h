@@ -33,31 +33,31 @@ inline constexpr const char* kPrefProjections[] = {"ｻﾝｿﾝ図法"_sj, "正
 inline constexpr const char* kJapanProjections[] = {"ｻﾝｿﾝ図法"_sj, "ｱﾙﾍﾞﾙｽ正積円錐図法"_sj};
 
 inline constexpr ControlTemplate kControls[] = {
-    {ControlKind::kGroupBox, kNoControlId, "地図の種類"_sj, {8, 6, 212, 36}},
-    {ControlKind::kRadioButton, kTopographic, "1/20万\n地勢図"_sj, {18, 18, 56, 18}, kGroupStart},
-    {ControlKind::kRadioButton, kArchipelago, "日本列島"_sj, {82, 18, 56, 18}},
-    {ControlKind::kRadioButton, kPrefectures, "都道府県別"_sj, {146, 18, 64, 18}},
-    {ControlKind::kGroupBox, kNoControlId, "1/20万地勢図/都道府県別"_sj, {8, 48, 212, 92}},
-    {ControlKind::kStatic, kNoControlId, "種別"_sj, {18, 62, 56, 8}},
-    {ControlKind::kRadioButton, kBlank, "白地図"_sj, {82, 61, 56, 10}, kGroupStart},
-    {ControlKind::kRadioButton, kTint, "段彩図"_sj, {146, 61, 64, 10}},
-    {ControlKind::kStatic, kNoControlId, "配色"_sj, {18, 79, 56, 8}},
-    {ControlKind::kComboBox, kPalette, "", {82, 76, 128, 14}},
-    {ControlKind::kStatic, kNoControlId, "塗り分け方法"_sj, {18, 98, 56, 8}},
-    {ControlKind::kComboBox, kMethod, "", {82, 95, 128, 14}, kPlain, kMethods},
-    {ControlKind::kStatic, kNoControlId, "海岸線の色\n　（白地図）"_sj, {18, 114, 56, 18}},
-    {ControlKind::kComboBox, kCoastline, "", {82, 116, 128, 14}, kPlain, kCoastlines},
-    {ControlKind::kGroupBox, kNoControlId, "図法"_sj, {8, 146, 212, 56}},
-    {ControlKind::kStatic, kNoControlId, "都道府県別"_sj, {18, 162, 56, 8}},
-    {ControlKind::kComboBox, kPrefProjection, "", {82, 159, 128, 14}, kPlain, kPrefProjections},
-    {ControlKind::kStatic, kNoControlId, "日本列島"_sj, {18, 181, 56, 8}},
-    {ControlKind::kComboBox, kJapanProjection, "", {82, 178, 128, 14}, kPlain, kJapanProjections},
-    {ControlKind::kPushButton, IDOK, "OK", {96, 210, 58, 16}, kDefaultButton},
-    {ControlKind::kPushButton, IDCANCEL, "ｷｬﾝｾﾙ"_sj, {162, 210, 58, 16}},
+    {ControlKind::kGroupBox, kNoControlId, "地図の種類"_sj, {8, 6, 212, 40}},
+    {ControlKind::kRadioButton, kTopographic, "1/20万\n地勢図"_sj, {18, 21, 56, 18}, kGroupStart},
+    {ControlKind::kRadioButton, kArchipelago, "日本列島"_sj, {82, 21, 56, 18}},
+    {ControlKind::kRadioButton, kPrefectures, "都道府県別"_sj, {146, 21, 64, 18}},
+    {ControlKind::kGroupBox, kNoControlId, "1/20万地勢図/都道府県別"_sj, {8, 53, 212, 93}},
+    {ControlKind::kStatic, kNoControlId, "種別"_sj, {18, 71, 56, 8}},
+    {ControlKind::kRadioButton, kBlank, "白地図"_sj, {82, 70, 56, 10}, kGroupStart},
+    {ControlKind::kRadioButton, kTint, "段彩図"_sj, {146, 70, 56, 10}},
+    {ControlKind::kStatic, kNoControlId, "配色"_sj, {18, 88, 56, 8}},
+    {ControlKind::kComboBox, kPalette, "", {82, 85, 128, 14}},
+    {ControlKind::kStatic, kNoControlId, "塗り分け方法"_sj, {18, 107, 56, 8}},
+    {ControlKind::kComboBox, kMethod, "", {82, 104, 128, 14}, kPlain, kMethods},
+    {ControlKind::kStatic, kNoControlId, "海岸線の色\n　（白地図）"_sj, {18, 121, 56, 18}},
+    {ControlKind::kComboBox, kCoastline, "", {82, 123, 128, 14}, kPlain, kCoastlines},
+    {ControlKind::kGroupBox, kNoControlId, "図法"_sj, {8, 153, 212, 59}},
+    {ControlKind::kStatic, kNoControlId, "都道府県別"_sj, {18, 173, 56, 8}},
+    {ControlKind::kComboBox, kPrefProjection, "", {82, 170, 128, 14}, kPlain, kPrefProjections},
+    {ControlKind::kStatic, kNoControlId, "日本列島"_sj, {18, 192, 56, 8}},
+    {ControlKind::kComboBox, kJapanProjection, "", {82, 189, 128, 14}, kPlain, kJapanProjections},
+    {ControlKind::kPushButton, IDOK, "OK", {96, 221, 58, 16}, kDefaultButton},
+    {ControlKind::kPushButton, IDCANCEL, "ｷｬﾝｾﾙ"_sj, {162, 221, 58, 16}},
 };
 
 inline constexpr DialogTemplate kTemplate = {
-    159, "  地図の種類と配色"_sj, Placement::kOnPointer, 0, 0, 228, 234, kControls};
+    159, "  地図の種類と配色"_sj, Placement::kOnPointer, 0, 0, 228, 245, kControls};
 
 }  // namespace orreryui::map_type
 
