@@ -40,10 +40,46 @@ Operation RangeConfirm() {
   return Describe(&OnRengeConfirm, operation);
 }
 
+// The whole of Japan alone.
+std::string WholeRegion() {
+  std::string region = "1|";
+  for (int prefecture = 1; prefecture <= 47; ++prefecture) region += "0|";
+  return region + "1";
+}
+
+Operation MapTypeSet() {
+  Operation operation;
+  operation.name = "OnMapTypeSet";
+  operation.purpose = "Choose the kind of the map and its colouring";
+  operation.arguments = {
+      {"PALETTE", "the palette's line in PLTTFILE.DAT, from 0", "0"},
+      {"KIND", "10 * projection of the archipelago (0 Sanson, 2 Albers) + kind of the map", "21"},
+      {"FILL", "10000 * projection of the map by prefecture + 1 for a tint map", "10001"},
+      {"COAST", "10000 * coastline by prefecture + 100 * topographic coastline + method", "50102"},
+      {"COAST-ON-TINT", "1 if a tint map has a coastline colour too", "1"},
+      {"FOLDER", "folder of PLTTFILE.DAT, with its separator", std::string(kDataFolder) + "/"},
+      {"REGION", "the whole and the 47 prefectures, 1 for those chosen, and a tail", WholeRegion()},
+  };
+  operation.fields = {
+      {"changed", "1: the map is to be drawn anew, -1: it isn't", std::nullopt},
+      {"palette", "the palette's line in PLTTFILE.DAT, from 0", 0},
+      {"kind", "1: topographic 1:200000, 2: archipelago, 3: by prefecture", 1, 1},
+      {"tint", "0: blank map, 1: hypsometric tint map", 2, 1},
+      {"method", "index of the fill method", 3, 1},
+      {"unused", "always 0", std::nullopt},
+      {"prefecture projection", "0: Sanson, 1: equirectangular", 2, 10000},
+      {"topographic coastline", "index of the coastline colour of kind 1", 3, 100},
+      {"coastline by prefecture", "index of the coastline colour of kind 3", 3, 10000},
+      {"archipelago projection", "0: Sanson, 2: Albers", 1, 10},
+      {"region", "the whole and the 47 prefectures, 1 for those chosen, and a tail", 6},
+  };
+  return Describe(&OnMapTypeSet, operation);
+}
+
 }  // namespace
 
 const std::vector<Operation>& Operations() {
-  static const std::vector<Operation> operations = {DataSourceSet(), RangeConfirm()};
+  static const std::vector<Operation> operations = {DataSourceSet(), MapTypeSet(), RangeConfirm()};
   return operations;
 }
 

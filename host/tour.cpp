@@ -12,7 +12,9 @@
 namespace orreryui::host {
 namespace {
 
-std::vector<Visit> Visits() { return {VisitDataSourceSet(), VisitRangeConfirm()}; }
+std::vector<Visit> Visits() {
+  return {VisitDataSourceSet(), VisitMapTypeSet(), VisitRangeConfirm()};
+}
 
 void PrintFields(const Operation& operation, const std::string& result) {
   const std::vector<std::string> texts = FieldsOf(operation, result);

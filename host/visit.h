@@ -26,6 +26,7 @@ struct Visit {
 
 // Each in a file of its own under visits/.
 Visit VisitDataSourceSet();
+Visit VisitMapTypeSet();
 Visit VisitRangeConfirm();
 
 }  // namespace orreryui::host
