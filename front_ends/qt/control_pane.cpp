@@ -139,6 +139,6 @@ void ControlPane::Refresh(const std::vector<int>& indices) {
   frame_.ContentsChanged();
 }
 
-void ControlPane::RefreshLayout() { frame_.ContentsChanged(); }
+void ControlPane::RefreshLayout() { frame_.FocusChanged(); }
 
 }  // namespace orreryui

@@ -12,7 +12,8 @@ class PaneFrame {
   virtual void GestureDone() = 0;  // to be called after each gesture on a pane
   virtual void PressEnter() = 0;
   virtual void PressEscape() = 0;
-  virtual void ContentsChanged() = 0;  // a pane has other controls, texts or focus now
+  virtual void ContentsChanged() = 0;  // a pane has other controls or texts now
+  virtual void FocusChanged() = 0;     // another control is to have the input focus now
 
   // Whether widgets are being changed on the program's behalf, so that their signals and the moves
   // of the focus mean nothing.

@@ -63,6 +63,7 @@ void QtDialog::RunModally() {
 
 void QtDialog::Build() {
   setObjectName(QString::number(session_.Layout().number));
+  setWindowTitle(FromUtf8(session_.Layout().title));
   pane_ = new ControlPane(session_, *this, this);
   pane_->Build();
   scale_ = DialogScale::Of(font());
@@ -72,7 +73,6 @@ void QtDialog::Build() {
 
 void QtDialog::Arrange() {
   const DialogLayout layout = session_.Layout();
-  setWindowTitle(FromUtf8(layout.title));
   GrowToFit();
   const QPoint corner = scale_.ToPixels(layout.width, layout.height);
   const QSize size(corner.x(), corner.y());
@@ -108,8 +108,10 @@ void QtDialog::FitIntoScreen(QSize size) {
 }
 
 void QtDialog::OrderTabs() {
-  const QList<QWidget*> widgets = pane_->FocusWidgets();
-  for (int next = 1; next < widgets.size(); ++next) setTabOrder(widgets[next - 1], widgets[next]);
+  const QList<QWidget*> order = pane_->FocusWidgets();
+  if (order == tab_order_) return;
+  tab_order_ = order;
+  for (int next = 1; next < order.size(); ++next) setTabOrder(order[next - 1], order[next]);
 }
 
 void QtDialog::ShowFocus() {
@@ -156,18 +158,21 @@ void QtDialog::Refresh(const std::vector<int>& indices) {
 
 void QtDialog::RefreshLayout() {
   if (pane_ == nullptr) return;
-  ContentsChanged();
+  FocusChanged();
   const DialogLayout now = session_.Layout();
+  setWindowTitle(FromUtf8(now.title));
   const bool moved = now.placement != placed_.placement || now.x != placed_.x || now.y != placed_.y;
   if (moved && isVisible()) Place();
 }
 
 void QtDialog::ContentsChanged() {
   if (scale_.x <= 0 || Ended()) return;
-  Quietly([this] {
-    Arrange();
-    if (isVisible()) ShowFocus();
-  });
+  Quietly([this] { Arrange(); });
+  FocusChanged();
+}
+
+void QtDialog::FocusChanged() {
+  if (isVisible() && !Ended()) Quietly([this] { ShowFocus(); });
 }
 
 void QtDialog::GestureDone() {

@@ -37,6 +37,7 @@ class QtDialog : public QDialog, public DialogWindow, private PaneFrame {
   void PressEnter() override;
   void PressEscape() override;
   void ContentsChanged() override;
+  void FocusChanged() override;
 
   void Build();
   void Arrange();
@@ -55,6 +56,7 @@ class QtDialog : public QDialog, public DialogWindow, private PaneFrame {
   DialogScale scale_;
   DialogScale most_;  // the scale beyond which texts are cut instead
   DialogLayout placed_;
+  QList<QWidget*> tab_order_;
   bool covered_ = false;  // nothing of the window was to be seen since it was last drawn
 };
 
