@@ -1,9 +1,10 @@
 #include "platform/front_end_loader.h"
 
 #include <dlfcn.h>
-#include <limits.h>
-#include <stdlib.h>
 
+#include <cinttypes>
+#include <cstdio>
+#include <fstream>
 #include <utility>
 
 namespace orreryui {
@@ -13,22 +14,33 @@ constexpr char kPlugIn[] = "orreryui/liborreryui-qt.so";
 
 ScopedFrontEnd* replacement = nullptr;
 
-std::string FolderOf(const std::string& file) {
-  const std::size_t slash = file.rfind('/');
-  return slash == std::string::npos ? "" : file.substr(0, slash + 1);
-}
-
 // The file that this code was loaded from, as the loader spelled it.
 std::string OwnFile() {
   Dl_info info{};
-  if (dladdr(reinterpret_cast<const void*>(&LoadFrontEnd), &info) == 0 || !info.dli_fname)
-    return "";
-  return info.dli_fname;
+  if (dladdr(reinterpret_cast<const void*>(&LoadFrontEnd), &info) == 0) return "";
+  return info.dli_fname ? info.dli_fname : "";
 }
 
-std::string WithoutLinks(const std::string& file) {
-  char resolved[PATH_MAX];
-  return realpath(file.c_str(), resolved) ? resolved : "";
+// The same file with its full path and without links, which still holds when the working directory
+// has changed since.
+std::string OwnMappedFile() {
+  const auto own = reinterpret_cast<std::uintptr_t>(&LoadFrontEnd);
+  std::ifstream maps("/proc/self/maps");
+  std::string line;
+  while (std::getline(maps, line)) {
+    std::uintptr_t begin = 0, end = 0;
+    if (std::sscanf(line.c_str(), "%" SCNxPTR "-%" SCNxPTR, &begin, &end) != 2) continue;
+    if (own < begin || own >= end) continue;
+    const std::size_t path = line.find('/');
+    return path == std::string::npos ? "" : line.substr(path);
+  }
+  return "";
+}
+
+// A path that isn't a full one would lead to whatever lies in the working directory.
+FrontEnd* LoadPlugInBeside(const std::string& file) {
+  if (file.empty() || file.front() != '/') return nullptr;
+  return LoadFrontEnd(file.substr(0, file.rfind('/') + 1) + kPlugIn);
 }
 
 }  // namespace
@@ -42,10 +54,8 @@ FrontEnd* LoadFrontEnd(const std::string& path) {
 
 FrontEnd* CurrentFrontEnd() {
   if (replacement) return replacement->front_end_;
-  const std::string own_file = OwnFile();
-  if (own_file.empty()) return nullptr;
-  FrontEnd* const beside = LoadFrontEnd(FolderOf(own_file) + kPlugIn);
-  return beside ? beside : LoadFrontEnd(FolderOf(WithoutLinks(own_file)) + kPlugIn);
+  FrontEnd* const beside = LoadPlugInBeside(OwnFile());
+  return beside ? beside : LoadPlugInBeside(OwnMappedFile());
 }
 
 ScopedFrontEnd::ScopedFrontEnd(FrontEnd* front_end)

@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <ostream>
 #include <set>
 #include <vector>
 
@@ -31,6 +32,10 @@ struct Entry {
   const DialogTemplate& dialog_template;
   std::vector<std::pair<int, int>> handled;  // ranges of control numbers in the message map
 };
+
+void PrintTo(const Entry& entry, std::ostream* out) {
+  *out << "template " << entry.dialog_template.number;
+}
 
 template <class D>
 Entry EntryOf(const DialogTemplate& dialog_template) {

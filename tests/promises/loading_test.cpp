@@ -59,6 +59,18 @@ TEST_F(Loading, WithAPlugInThatRefuses) {
   ExpectNoDialogOf(folder_ / "liborreryui.so");
 }
 
+TEST_F(Loading, ByARelativePathFromAFolderThatIsLeftBehind) {
+  fs::copy_file(ORRERYUI_REFUSING_PLUG_IN, PlugIn());
+  UseOffscreen();
+  const fs::path home = fs::current_path();
+  fs::current_path(folder_);
+  void* const module = dlopen("./liborreryui.so", RTLD_NOW | RTLD_LOCAL);
+  fs::current_path(home);
+  ASSERT_NE(module, nullptr) << dlerror();
+  ExpectNoDialogOf(folder_ / "liborreryui.so");
+  EXPECT_NE(dlopen(PlugIn().c_str(), RTLD_NOW | RTLD_NOLOAD), nullptr) << "it wasn't found";
+}
+
 TEST_F(Loading, AgainAndAgain) {
   const Holdings before = CurrentHoldings();
   for (int i = 0; i < 20; ++i) ExpectNoDialogOf(ORRERYUI_LIBRARY);
