@@ -84,8 +84,8 @@ CString CDialog::GetDlgItemText(int id) const {
   return control ? control->text : CString();
 }
 
-void CDialog::SetDlgItemText(int id, const char* text) {
-  if (Control* control = Change(id)) control->text = text;
+void CDialog::SetDlgItemText(int id, CString text) {
+  if (Control* control = Change(id)) control->SetText(std::move(text));
 }
 
 void CDialog::SetDlgItemInt(int id, int value) {
@@ -129,7 +129,7 @@ void CDialog::ResetContent(int id) {
   if (!control) return;
   control->rows.clear();
   control->selection = -1;
-  if (control->HasEditField()) control->text = CString();
+  if (control->HasEditField()) control->SetText(CString());
 }
 
 void CDialog::AddString(int id, const char* text) {
@@ -150,7 +150,7 @@ void CDialog::SetCurSel(int id, int row) {
   Control* control = Change(id);
   if (!control) return;
   control->selection = HasRow(*control, row) ? row : -1;
-  if (control->HasEditField()) control->text = GetLBText(id, row);
+  if (control->HasEditField()) control->SetText(GetLBText(id, row));
 }
 
 CString CDialog::GetLBText(int id, int row) const {

@@ -82,7 +82,7 @@ class CDialog {
 
  public:
   CString GetDlgItemText(int id) const;
-  void SetDlgItemText(int id, const char* text);
+  void SetDlgItemText(int id, CString text);
   void SetDlgItemInt(int id, int value);
   void SetWindowText(const char* title);
   void MoveWindow(int x, int y);  // to this pixel of the screen

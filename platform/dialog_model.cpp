@@ -1,11 +1,16 @@
 #include "platform/dialog_model.h"
 
+#include <string>
 #include <utility>
 
 #include "platform/code_page_932.h"
 
 namespace orreryui {
 namespace {
+
+std::string_view Bytes(const CString& text) {
+  return {text, static_cast<std::size_t>(text.GetLength())};
+}
 
 Control MakeControl(const ControlTemplate& source) {
   Control control;
@@ -15,7 +20,7 @@ Control MakeControl(const ControlTemplate& source) {
   control.flags = source.flags;
   control.visible = (source.flags & kHidden) == 0;
   control.enabled = (source.flags & kDisabled) == 0;
-  control.text = source.text;
+  control.SetText(source.text);
   for (const char* item : source.items) control.rows.push_back({CString(item)});
   return control;
 }
@@ -62,6 +67,28 @@ bool Control::IsList() const {
     default:
       return false;
   }
+}
+
+void Control::SetText(CString new_text) {
+  text = std::move(new_text);
+  if (kind == ControlKind::kMultiLineEdit) part = FirstPart(Bytes(text));
+}
+
+std::string_view Control::ShownText() const {
+  if (kind != ControlKind::kMultiLineEdit) return Bytes(text);
+  return Bytes(text).substr(part.begin, part.end - part.begin);
+}
+
+void Control::ReplaceShownText(std::string_view bytes) {
+  const std::string_view old = Bytes(text);
+  std::string whole(bytes);
+  if (kind == ControlKind::kMultiLineEdit) {
+    whole.reserve(old.size() + bytes.size());
+    whole.insert(0, old.substr(0, part.begin)).append(old.substr(part.end));
+    part = EditedPart(part, ShownText(), bytes);
+  }
+  text.Empty();  // so that there are never three copies of a long text
+  text = CString(whole.data(), static_cast<int>(whole.size()));
 }
 
 DialogModel::DialogModel(const DialogTemplate& dialog_template) : title_(dialog_template.title) {
@@ -133,8 +160,8 @@ ControlView ViewOf(const Control& control) {
   view.right_aligned = (control.flags & kRightAligned) != 0;
   view.tall_scroll_bar = (control.flags & kTallScrollBar) != 0;
   view.checked = control.checked;
-  view.text =
-      ToUtf8(std::string_view(control.text, static_cast<std::size_t>(control.text.GetLength())));
+  view.text = ToUtf8(control.ShownText());
+  view.part = control.part.lines;
   for (std::size_t i = 0; i < control.column_titles.size(); ++i) {
     view.columns.push_back(
         {ToUtf8(control.column_titles[i].operator const char*()), control.column_widths[i]});

@@ -7,10 +7,12 @@
 #include <orreryui/cstring.h>
 
 #include <set>
+#include <string_view>
 #include <utility>
 #include <vector>
 
 #include "platform/dialog_template.h"
+#include "platform/text_part.h"
 
 namespace orreryui {
 
@@ -24,6 +26,7 @@ struct Control {
   bool enabled = true;
   bool checked = false;
   CString text;
+  ShownPart part;  // of a multi-line edit: what of its text is shown
   std::vector<CString> column_titles;
   std::vector<int> column_widths;          // in pixels of a screen at scale 1
   std::vector<std::vector<CString>> rows;  // a row is its columns; list kinds have one
@@ -34,6 +37,11 @@ struct Control {
   bool IsButton() const;    // a click on it reaches a handler
   bool HasEditField() const;
   bool IsList() const;  // has rows that can be picked, a tab control included
+
+  void SetText(CString new_text);
+  // The text, or the part of it that is shown, and another one in its place.
+  std::string_view ShownText() const;
+  void ReplaceShownText(std::string_view bytes);
 };
 
 class DialogModel {

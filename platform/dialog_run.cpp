@@ -169,16 +169,16 @@ TypedText DialogRun::Type(int id, const std::string& text) {
   const int index = Target(id);
   Gesture gesture(*this);
   if (index < 0 || !Model().At(index).HasEditField()) return {};
-  if (!gesture) return {ToUtf8(Bytes(Model().At(index).text)), {}};
+  if (!gesture) return {ToUtf8(Model().At(index).ShownText()), {}};
   MoveFocus(index);
   const orreryui::Control& control = Model().At(index);
   const bool multi_line = control.kind == ControlKind::kMultiLineEdit;
-  const Encoded typed = MergeEdit(Bytes(control.text), WithoutForbiddenBytes(text, multi_line));
-  if (!Ended() && Bytes(control.text) != typed.bytes) {
-    Model().Change(index).text = CString(typed.bytes.data(), static_cast<int>(typed.bytes.size()));
+  const Encoded typed = MergeEdit(control.ShownText(), WithoutForbiddenBytes(text, multi_line));
+  if (!Ended() && control.ShownText() != typed.bytes) {
+    Model().Change(index).ReplaceShownText(typed.bytes);
     Send(id, Event::kChange);
   }
-  return {ToUtf8(Bytes(Model().At(index).text)), typed.refused};
+  return {ToUtf8(Model().At(index).ShownText()), typed.refused};
 }
 
 void DialogRun::Pick(int id, int row) {
@@ -222,6 +222,14 @@ void DialogRun::DoubleClick(int id, int row, int column) {
   Send(id, Event::kDoubleClick);
 }
 
+void DialogRun::Scroll(int id, int line) {
+  const int index = Target(id);
+  Gesture gesture(*this);
+  if (!gesture || index < 0 || Model().At(index).kind != ControlKind::kMultiLineEdit) return;
+  orreryui::Control& control = Model().Change(index);
+  control.part = PartAround(Bytes(control.text), control.part, line);
+}
+
 void DialogRun::Enter() {
   DialogRun& root = Root();
   Gesture gesture(root);
@@ -232,7 +240,7 @@ void DialogRun::Enter() {
   const bool is_button =
       control.kind == ControlKind::kPushButton || control.kind == ControlKind::kSwatch;
   if (control.kind == ControlKind::kMultiLineEdit) {
-    run.Model().Change(root.focus_).text += "\r\n";
+    run.Model().Change(root.focus_).ReplaceShownText(std::string(control.ShownText()) + "\r\n");
     run.Send(control.id, Event::kChange);
   } else if (is_button && run.Target(control.id) >= 0) {
     run.Send(control.id, Event::kClick);

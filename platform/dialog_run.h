@@ -31,6 +31,7 @@ class DialogRun : public DialogSession {
   TypedText Type(int id, const std::string& text) override;
   void Pick(int id, int row) override;
   void DoubleClick(int id, int row, int column) override;
+  void Scroll(int id, int line) override;
   void Enter() override;
   void Escape() override;
   void Paint() override;

@@ -81,6 +81,14 @@ struct SwatchView {
   std::optional<std::uint32_t> frame;   // a frame that makes the swatch stand out
 };
 
+// Which lines of a multi-line edit's text ControlView::text holds. A text that is too long to be
+// drawn at once is handed out in parts of whole lines; DialogSession::Scroll goes to another part.
+struct TextPart {
+  int first = 0;  // the line that the part begins with, counted from 0
+  int count = 1;  // of lines in the part
+  int all = 1;    // of lines in the whole text
+};
+
 // One control as it is to be drawn. The parts that a kind doesn't use stay at their defaults.
 struct ControlView {
   ControlKind kind = ControlKind::kStatic;
@@ -94,6 +102,7 @@ struct ControlView {
   bool tall_scroll_bar = false;  // a multi-line edit that always shows its vertical scroll bar
   bool checked = false;
   std::string text;  // label, edit text, or the edit field of a combo box
+  TextPart part;     // of a multi-line edit: what of its text is in `text`
   std::vector<ReportColumn> columns;
   std::vector<std::vector<std::string>> rows;  // list kinds have one string a row
   int selection = -1;                          // selected row or tab, -1 for none
@@ -158,14 +167,19 @@ class DialogSession {
   // Escape are those of this session.
   virtual DialogSession* Page(int tab_control, int tab) = 0;
 
-  // The gestures. Each moves the focus to its control first, as the user's hand does.
+  // The gestures. Each but Scroll moves the focus to its control first, as the user's hand does.
   virtual void Focus(int id) = 0;
   virtual void Click(int id) = 0;  // push buttons, radio buttons, check boxes
-  virtual TypedText Type(int id, const std::string& text) = 0;  // the box now reads `text`
+  // The box, or the part of its text that is shown, now reads `text`.
+  virtual TypedText Type(int id, const std::string& text) = 0;
   virtual void Pick(int id, int row) = 0;  // a row of a list or combo box, or a tab
   // Selects the row if it isn't selected yet, then reports the double click. `column` is 0 for a
   // list without columns.
   virtual void DoubleClick(int id, int row, int column) = 0;
+
+  // The user has scrolled a multi-line edit to this line: the part that is shown becomes the one
+  // around it. A look at the text and no more: the focus stays where it is.
+  virtual void Scroll(int id, int line) = 0;
 
   // Gestures without a control: the keys, and the request of the system to draw anew. Enter is for
   // a place where it types no line break; it presses the focused push button, else the default one.

@@ -81,6 +81,10 @@ void FakeSession::DoubleClick(int id, int row, int column) {
   Record(Name("double", id) + ' ' + std::to_string(row) + ' ' + std::to_string(column));
 }
 
+void FakeSession::Scroll(int id, int line) {
+  Record(Name("scroll", id) + ' ' + std::to_string(line));
+}
+
 void FakeSession::Escape() { Record("escape"); }
 
 void FakeSession::Paint() {

@@ -52,6 +52,7 @@ class FakeSession : public DialogSession {
   TypedText Type(int id, const std::string& text) override;
   void Pick(int id, int row) override;
   void DoubleClick(int id, int row, int column) override;
+  void Scroll(int id, int line) override;
   void Enter() override { Record("enter"); }
   void Escape() override;
   void Paint() override;

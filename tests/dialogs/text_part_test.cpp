@@ -1,0 +1,151 @@
+// Long texts, which a multi-line edit shows in parts.
+#include <gtest/gtest.h>
+
+#include <climits>
+#include <functional>
+#include <string>
+#include <utility>
+
+#include "front_ends/script/script_front_end.h"
+#include "platform/code_page_932.h"
+#include "platform/dialog.h"
+#include "platform/front_end_loader.h"
+
+namespace orreryui {
+namespace {
+
+constexpr int kBox = 1;
+constexpr int kLines = 100000;
+
+constexpr ControlTemplate kControls[] = {
+    {ControlKind::kPushButton, 2, "Close", {0, 0, 10, 10}},
+    {ControlKind::kMultiLineEdit, kBox, "", {0, 10, 100, 100}},
+};
+constexpr DialogTemplate kTemplate = {1, "", Placement::kCentred, 0, 0, 100, 110, kControls};
+
+// The lines from `first` up to but without `last`: each its number and some kana.
+std::string Lines(int first, int last) {
+  std::string text;
+  for (int i = first; i < last; ++i) text += std::to_string(i) + " ｶﾅ かな\r\n";
+  return text;
+}
+
+std::string Part(int first, int count) {
+  std::string part = Lines(first, first + count);
+  part.resize(part.size() - 2);
+  return part;
+}
+
+std::string Numbers(const TextPart& part) {
+  return std::to_string(part.first) + " " + std::to_string(part.count) + " " +
+         std::to_string(part.all);
+}
+
+// What a box that holds `text` shows.
+class Box : public CDialog {
+ public:
+  explicit Box(const std::string& text) : CDialog(kTemplate), text_(FromUtf8(text).bytes.c_str()) {}
+
+  void Play(const std::function<void(DialogSession&)>& steps) {
+    ScriptFrontEnd script;
+    script.OpensDialog(1).Does([&](DialogSession& session) {
+      steps(session);
+      return "";
+    });
+    script.Escape();
+    ScopedFrontEnd scope(&script);
+    DoModal();
+    EXPECT_EQ(script.Failures(), "");
+  }
+
+  std::string Text() const { return ToUtf8(GetDlgItemText(kBox)); }
+
+ private:
+  void OnInitDialog() override { SetDlgItemText(kBox, text_); }
+
+  CString text_;
+};
+
+ControlView Look(const DialogSession& session) { return session.Control(1); }
+
+TEST(TextPart, ScrollingShowsTheLinesAroundAndMovesNoFocus) {
+  Box(Lines(0, kLines)).Play([](DialogSession& session) {
+    EXPECT_EQ(Look(session).text, Part(0, kLinesOfPart));
+    const int half = kLinesOfPart / 2;
+    const int last = kLines + 1 - kLinesOfPart;
+    const std::pair<int, int> visits[] = {{5000, 5000 - half},
+                                          {4990, 4990 - half},
+                                          {90000, 90000 - half},
+                                          {70000, 70000 - half},
+                                          {kLines, last},
+                                          {INT_MAX, last},
+                                          {kLines + 1 - half, last},
+                                          {100, 0},
+                                          {-1, 0}};
+    for (const auto& [line, first] : visits) {
+      session.Scroll(kBox, line);
+      const ControlView view = Look(session);
+      EXPECT_EQ(Numbers(view.part), Numbers({first, kLinesOfPart, kLines + 1})) << line;
+      const bool at_end = first == last;
+      const std::string text = at_end ? Lines(first, kLines) : Part(first, kLinesOfPart);
+      EXPECT_TRUE(view.text == text) << line;
+    }
+    EXPECT_EQ(session.Layout().focus, 2);
+    session.Scroll(2, 5);
+    session.Scroll(999, 5);
+  });
+}
+
+TEST(TextPart, TypingChangesThePartAndNothingElse) {
+  Box box(Lines(0, kLines));
+  box.Play([](DialogSession& session) {
+    session.Scroll(kBox, 50000);
+    const TextPart before = Look(session).part;
+    const std::string part = Look(session).text;
+    EXPECT_EQ(session.Type(kBox, "新\r\n" + part + "\r\n😀行").refused, "😀");
+    EXPECT_EQ(Look(session).text, "新\r\n" + part + "\r\n行");
+    EXPECT_EQ(Numbers(Look(session).part),
+              Numbers({before.first, before.count + 2, before.all + 2}));
+    session.Enter();
+    EXPECT_EQ(Look(session).text, "新\r\n" + part + "\r\n行\r\n");
+    session.Scroll(kBox, 50000);
+    EXPECT_EQ(Look(session).part.count, kLinesOfPart);
+    session.Scroll(kBox, 0);
+    session.Type(kBox, "");
+    EXPECT_EQ(Numbers(Look(session).part), Numbers({0, 1, before.all + 4 - kLinesOfPart}));
+  });
+  const int first = 50000 - kLinesOfPart / 2;
+  const int behind = first + kLinesOfPart;
+  EXPECT_TRUE(box.Text() == "\r\n" + Lines(kLinesOfPart, first) + "新\r\n" + Lines(first, behind) +
+                                "行\r\n\r\n" + Lines(behind, kLines));
+}
+
+TEST(TextPart, ATextIsWholeUnlessItIsLongInBytesAndInLines) {
+  const std::string megabyte(kLongestWholeText, 'a');
+  const std::string empty_lines(kLongestWholeText, '\n');
+  struct Case {
+    std::string text;
+    TextPart part;
+  };
+  const Case cases[] = {
+      {"", {0, 1, 1}},
+      {"\r\n", {0, 2, 2}},
+      {empty_lines, {0, 1 << 20, 1 << 20 | 1}},
+      {megabyte + "\n" + megabyte, {0, 2, 2}},
+  };
+  for (const Case& one : cases) {
+    Box(one.text).Play([&](DialogSession& session) {
+      EXPECT_TRUE(Look(session).text == one.text);
+      EXPECT_EQ(Look(session).part.all, one.part.all);
+    });
+  }
+  Box("\n\r\n" + empty_lines).Play([&](DialogSession& session) {
+    EXPECT_EQ(Numbers(Look(session).part), Numbers({0, kLinesOfPart, (1 << 20) + 3}));
+    EXPECT_EQ(Look(session).text, "\n\r\n" + std::string(kLinesOfPart - 3, '\n'));
+    session.Scroll(kBox, 1 << 19);
+    EXPECT_EQ(Look(session).text, std::string(kLinesOfPart - 1, '\n'));
+  });
+}
+
+}  // namespace
+}  // namespace orreryui
