@@ -46,19 +46,22 @@ QSize LineEditBinder::Needed(const ControlView&, QSize offered) const {
 }
 
 TextEditBinder::TextEditBinder(const BinderPlace& place)
-    : ControlBinder(place), edit_(new QPlainTextEdit(place.parent)) {
+    : ControlBinder(place), edit_(new PartEdit(place.parent)) {
   edit_->setTabChangesFocus(true);
   edit_->setWordWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
   QObject::connect(edit_, &QPlainTextEdit::textChanged, edit_, [this] { Report(); });
+  edit_->on_scroll = [this](int line) {
+    Run([this, line](DialogSession& session) { session.Scroll(id(), line); });
+  };
 }
 
 void TextEditBinder::ShowState(const ControlView& view) {
-  edit_->setVerticalScrollBarPolicy(view.tall_scroll_bar ? Qt::ScrollBarAlwaysOn
-                                                         : Qt::ScrollBarAsNeeded);
   const QString text = FromLines(view.text);
-  if (typing_ || text == edit_->toPlainText()) return;
-  known_ = text;
-  edit_->setPlainText(text);
+  if (!typing_ && text != known_) {
+    known_ = text;
+    edit_->setPlainText(text);
+  }
+  edit_->SetPart(view.part, view.tall_scroll_bar);
 }
 
 void TextEditBinder::Report() {

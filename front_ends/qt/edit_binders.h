@@ -3,9 +3,9 @@
 #define ORRERYUI_FRONT_ENDS_QT_EDIT_BINDERS_H_
 
 #include <QLineEdit>
-#include <QPlainTextEdit>
 
 #include "front_ends/qt/control_binder.h"
+#include "front_ends/qt/part_edit.h"
 
 namespace orreryui {
 
@@ -56,8 +56,8 @@ class TextEditBinder : public ControlBinder {
   void Report();
   void Replace(const QString& text);
 
-  QPlainTextEdit* edit_;
-  QString known_;  // the text that the session knows
+  PartEdit* edit_;
+  QString known_;  // the text, or the part of it, that the session shows
   bool typing_ = false;
 };
 

@@ -1,0 +1,151 @@
+// A text that is too long for one document, in the real text view on a real file.
+#include <gtest/gtest.h>
+#include <orreryui/orreryui.h>
+
+#include <QApplication>
+#include <QPlainTextEdit>
+#include <QScrollBar>
+#include <QTemporaryFile>
+#include <QTest>
+#include <QTextBlock>
+#include <QTimer>
+#include <functional>
+
+namespace orreryui {
+namespace {
+
+constexpr int kLines = 100000;
+
+class LongTextTest : public testing::Test {
+ protected:
+  LongTextTest() {
+    EXPECT_TRUE(file_.open());
+    for (int line = 0; line < kLines; ++line) {
+      file_.write(QByteArray::number(line) + " line of a long text\r\n");
+    }
+    file_.flush();
+  }
+
+  // Runs `user` in the text view, then closes it.
+  void Visit(const std::function<void()>& user) {
+    QTimer::singleShot(0, [&] {
+      window_ = QApplication::activeModalWidget();
+      ASSERT_NE(window_, nullptr);
+      edit_ = window_->findChild<QPlainTextEdit*>(QStringLiteral("1050"));
+      ASSERT_NE(edit_, nullptr);
+      user();
+      QTest::keyClick(window_, Qt::Key_Escape);
+    });
+    OnTextDisplayDaialog(file_.fileName().toLocal8Bit().constData(), "", "");
+    EXPECT_NE(edit_, nullptr);
+  }
+
+  void Press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
+    QTest::keyClick(edit_, key, modifiers);
+    Settle();
+  }
+
+  // Lets the part be exchanged if the visible lines call for that.
+  void Settle() {
+    window_->grab();
+    for (int round = 0; round < 3; ++round) QApplication::processEvents();
+  }
+
+  QScrollBar* Bar() const {
+    for (QScrollBar* bar : edit_->findChildren<QScrollBar*>()) {
+      if (bar->isVisible()) return bar;
+    }
+    return nullptr;
+  }
+
+  static int NumberOf(const QTextBlock& block) {
+    return block.text().section(QLatin1Char(' '), 0, 0).toInt();
+  }
+  int TopLine() const { return NumberOf(edit_->cursorForPosition(QPoint(4, 4)).block()); }
+  int CursorLine() const { return NumberOf(edit_->textCursor().block()); }
+
+  QWidget* window_ = nullptr;
+  QPlainTextEdit* edit_ = nullptr;
+
+ private:
+  QTemporaryFile file_;
+};
+
+TEST_F(LongTextTest, TheScrollBarGoesThroughTheWholeTextAndTheDocumentHoldsAPart) {
+  Visit([&] {
+    ASSERT_NE(Bar(), nullptr);
+    EXPECT_EQ(TopLine(), 0);
+    for (const int line : {50000, 50900, 99000, 300, 0}) {
+      Bar()->setValue(line);
+      Settle();
+      EXPECT_EQ(TopLine(), line);
+      EXPECT_EQ(Bar()->value(), line);
+      EXPECT_LT(edit_->blockCount(), 5000);
+    }
+    Bar()->setValue(Bar()->maximum());
+    Settle();
+    const QPoint last(4, edit_->viewport()->height() - 4);
+    EXPECT_EQ(edit_->cursorForPosition(last).block().text(), QString());
+  });
+}
+
+TEST_F(LongTextTest, PagesFollowOneAnotherAcrossParts) {
+  Visit([&] {
+    edit_->setFocus();
+    Press(Qt::Key_PageDown);
+    const int page = CursorLine();
+    ASSERT_GT(page, 5);
+    while (CursorLine() < 10000) {
+      const int before = CursorLine();
+      Press(Qt::Key_PageDown);
+      ASSERT_NEAR(CursorLine() - before, page, 1);
+    }
+    while (CursorLine() > 5000) {
+      const int before = CursorLine();
+      Press(Qt::Key_PageUp);
+      ASSERT_NEAR(before - CursorLine(), page, 1);
+    }
+    EXPECT_NEAR(Bar()->value(), CursorLine(), 2 * page);
+  });
+}
+
+TEST_F(LongTextTest, ASelectionOutlivesTheExchangeOfTheLinesAroundIt) {
+  Visit([&] {
+    Bar()->setValue(1700);
+    Settle();
+    edit_->setTextCursor(edit_->cursorForPosition(QPoint(4, 4)));
+    Press(Qt::Key_Right, Qt::ControlModifier | Qt::ShiftModifier);
+    const QString selected = edit_->textCursor().selectedText();
+    EXPECT_EQ(selected.trimmed(), QStringLiteral("1700"));
+    const QTextBlock first = edit_->document()->firstBlock();
+    const int first_line = NumberOf(first);
+    edit_->verticalScrollBar()->setValue(edit_->verticalScrollBar()->value() + 300);
+    Settle();
+    EXPECT_NE(NumberOf(edit_->document()->firstBlock()), first_line);
+    EXPECT_EQ(TopLine(), 2000);
+    EXPECT_EQ(edit_->textCursor().selectedText(), selected);
+    EXPECT_EQ(CursorLine(), 1700);
+  });
+}
+
+TEST_F(LongTextTest, WhatIsTypedStaysWhereItWasTyped) {
+  Visit([&] {
+    edit_->setFocus();
+    Press(Qt::Key_End, Qt::ControlModifier);
+    EXPECT_EQ(edit_->textCursor().block().previous().previous().text(),
+              QStringLiteral("99999 line of a long text"));
+    Press(Qt::Key_X);
+    Press(Qt::Key_Return);
+    Press(Qt::Key_Home, Qt::ControlModifier);
+    EXPECT_EQ(TopLine(), 0);
+    EXPECT_EQ(edit_->textCursor().position(), 0);
+    Press(Qt::Key_Y);
+    Press(Qt::Key_End, Qt::ControlModifier);
+    EXPECT_EQ(edit_->textCursor().block().previous().text(), QStringLiteral("x"));
+    Press(Qt::Key_Home, Qt::ControlModifier);
+    EXPECT_EQ(edit_->textCursor().block().text(), QStringLiteral("y0 line of a long text"));
+  });
+}
+
+}  // namespace
+}  // namespace orreryui
