@@ -15,9 +15,11 @@
 #include <algorithm>
 #include <climits>
 #include <cstdarg>
+#include <cstddef>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
+#include <functional>
 #include <utility>
 
 namespace orreryui {
@@ -207,27 +209,30 @@ class CString {
   // `text` may lie in this string.
   CString& Append(const char* text, std::size_t length) {
     if (length == 0) return *this;
-    const std::size_t total = Size() + length;
-    if (total <= static_cast<std::size_t>(Read().capacity)) {
-      std::memcpy(bytes_ + Size(), text, length);
-      SetLength(total);
-      return *this;
+    if (length > INT_MAX) std::abort();
+    const std::size_t size = Size();
+    const std::size_t total = size + length;
+    if (total > static_cast<std::size_t>(Read().capacity)) {
+      const bool is_own = !std::less<>()(text, bytes_) && !std::less<>()(bytes_ + size, text);
+      const std::ptrdiff_t place = is_own ? text - bytes_ : 0;
+      Reserve(IsEmpty() ? length : total + total / 2);
+      if (is_own) text = bytes_ + place;
     }
-    CString grown;
-    grown.Reserve(IsEmpty() ? length : total + total / 2);
-    std::memcpy(grown.bytes_, bytes_, Size());
-    std::memcpy(grown.bytes_ + Size(), text, length);
-    grown.SetLength(total);
-    Swap(grown);
+    std::memcpy(bytes_ + size, text, length);
+    SetLength(total);
     return *this;
   }
 
-  // Gives a string that owns no memory room for `capacity` bytes. SetLength must follow.
+  // Gives the string room for `capacity` bytes, more than it holds. SetLength must follow. A long
+  // string grows where it lies, if the system can do that: there are no two copies of it.
   void Reserve(std::size_t capacity) {
-    void* const block = capacity < INT_MAX ? std::malloc(sizeof(Header) + capacity + 1) : nullptr;
+    const int length = GetLength();
+    void* const old = IsEmpty() ? nullptr : bytes_ - sizeof(Header);
+    void* const block =
+        capacity < INT_MAX ? std::realloc(old, sizeof(Header) + capacity + 1) : nullptr;
     if (!block) std::abort();
     bytes_ = static_cast<char*>(block) + sizeof(Header);
-    Write({0, static_cast<int>(capacity)});
+    Write({length, static_cast<int>(capacity)});
   }
 
   // A block that was reserved in vain is given back.
