@@ -1,5 +1,7 @@
 #include "presentation/memo_dialog.h"
 
+#include <utility>
+
 #include "presentation/attached_text.h"
 #include "templates/memo.h"
 
@@ -20,7 +22,7 @@ void CDlgMemo::OnInitDialog() {
   SetDlgItemText(kPath, m_strFile);
   if (m_nMemoMode == kMemoOfFile) m_strText = ReadMemo(m_strFile);
   if (m_nMemoMode == kPreviewOfFile) m_strText = ReadPreview(m_strFile);
-  SetDlgItemText(kText, m_strText);
+  SetDlgItemText(kText, std::move(m_strText));
 }
 
 }  // namespace orreryui

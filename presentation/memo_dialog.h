@@ -18,7 +18,7 @@ class CDlgMemo : public CDialog {
   int m_nMemoMode = 0;  // a MemoMode
   int m_nLeft = 0;      // left edge of the window in pixels of the screen; below 1: as the template
   CString m_strFile;    // path of the file
-  CString m_strText;    // the text to show, from the start of the run the one that is shown
+  CString m_strText;    // the text to show; it goes into the box when the dialog starts
 
  private:
   void OnInitDialog() override;
