@@ -24,6 +24,31 @@ Operation DataSourceSet() {
   return Describe(&OnDataSourceSet, operation);
 }
 
+Operation TextDisplay() {
+  Operation operation;
+  operation.name = "OnTextDisplayDaialog";
+  operation.purpose = "Show the main text of a text file";
+  operation.arguments = {
+      {"FILE", "path of the text file", std::string(kDataFolder) + "/kamakura.txt"},
+      {"TITLE1", "first part of the caption", "鎌倉"},
+      {"TITLE2", "second part of the caption", "高徳院の大仏"},
+  };
+  return Describe(&OnTextDisplayDaialog, operation);
+}
+
+Operation MemoDisplay() {
+  Operation operation;
+  operation.name = "OnMemoDisplay";
+  operation.purpose = "Show the memo of a text file";
+  operation.arguments = {
+      {"MODE", "1: the memo; 2: the first 16 lines; any other number: TEXT", "1"},
+      {"LEFT", "left edge of the window in pixels, or 0", "0"},
+      {"FILE", "path of the text file", std::string(kDataFolder) + "/kamakura.txt"},
+      {"TEXT", "the text to show if MODE is neither 1 nor 2", ""},
+  };
+  return Describe(&OnMemoDisplay, operation);
+}
+
 Operation RangeConfirm() {
   Operation operation;
   operation.name = "OnRengeConfirm";
@@ -79,7 +104,8 @@ Operation MapTypeSet() {
 }  // namespace
 
 const std::vector<Operation>& Operations() {
-  static const std::vector<Operation> operations = {DataSourceSet(), MapTypeSet(), RangeConfirm()};
+  static const std::vector<Operation> operations = {DataSourceSet(), MapTypeSet(), TextDisplay(),
+                                                    MemoDisplay(), RangeConfirm()};
   return operations;
 }
 

@@ -13,7 +13,8 @@ namespace orreryui::host {
 namespace {
 
 std::vector<Visit> Visits() {
-  return {VisitDataSourceSet(), VisitMapTypeSet(), VisitRangeConfirm()};
+  return {VisitDataSourceSet(), VisitMapTypeSet(), VisitTextDisplay(), VisitMemoDisplay(),
+          VisitRangeConfirm()};
 }
 
 void PrintFields(const Operation& operation, const std::string& result) {

@@ -27,7 +27,9 @@ struct Visit {
 // Each in a file of its own under visits/.
 Visit VisitDataSourceSet();
 Visit VisitMapTypeSet();
+Visit VisitMemoDisplay();
 Visit VisitRangeConfirm();
+Visit VisitTextDisplay();
 
 }  // namespace orreryui::host
 
