@@ -50,7 +50,7 @@ inline constexpr ControlTemplate kControls[] = {
     {ControlKind::kSwatch, kSwatches[10], "C11", {226, 172, 26, 12}},
     {ControlKind::kStatic, kNoControlId, "地図の背景色"_sj, {168, 188, 52, 8}},
     {ControlKind::kSwatch, kSwatches[12], "C13", {226, 186, 26, 12}},
-    {ControlKind::kCheckBox, kCheck, "配色ﾁｪｯｸ"_sj, {18, 194, 60, 10}},
+    {ControlKind::kCheckBox, kCheck, "配色ﾁｪｯｸ"_sj, {10, 193, 60, 10}},
     {ControlKind::kStatic, kNote, "", {10, 210, 242, 8}},
     {ControlKind::kPushButton, IDOK, "OK", {130, 226, 58, 16}, kDefaultButton},
     {ControlKind::kPushButton, IDCANCEL, "ｷｬﾝｾﾙ"_sj, {194, 226, 58, 16}},
