@@ -22,6 +22,7 @@ std::vector<std::string> FieldsOf(const Operation& operation, const std::string&
     start = bar + 1;
   }
   texts.push_back(result.substr(start));
+  if (operation.ends_in_number && texts.back().ends_with('|')) texts.back().pop_back();
   texts.resize(operation.fields.size());
   return texts;
 }

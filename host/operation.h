@@ -43,6 +43,7 @@ struct Operation {
   std::string purpose;
   std::vector<Argument> arguments;
   std::vector<Field> fields;
+  bool ends_in_number = false;  // the last field has a bar behind it, as the others have
   std::string result_unless_ok;
   bool returns_something = true;
   std::vector<std::string> argument_types;  // "integer" or "text"

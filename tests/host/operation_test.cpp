@@ -49,6 +49,14 @@ TEST(OperationTest, CutsResultsIntoFields) {
   EXPECT_THAT(FieldsOf(join, ""), IsEmpty());
 }
 
+TEST(OperationTest, DropsTheBarBehindALastNumber) {
+  Operation join = Joining();
+  EXPECT_THAT(FieldsOf(join, "3|4|"), ElementsAre("3", "4|"));
+  join.ends_in_number = true;
+  EXPECT_THAT(FieldsOf(join, "3|4|"), ElementsAre("3", "4"));
+  EXPECT_THAT(FieldsOf(join, ""), IsEmpty());
+}
+
 TEST(OperationTest, KeepsWhatItHandsBack) {
   EXPECT_THAT(NextValues(Joining(), {"1", "a"}, "3|b"), ElementsAre("3", "a"));
   EXPECT_THAT(NextValues(Joining(), {"1", "a"}, ""), ElementsAre("1", "a"));
