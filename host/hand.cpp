@@ -13,8 +13,7 @@
 namespace orreryui::host {
 namespace {
 
-void ClickMouse(QWidget& widget) {
-  const QPointF place = widget.rect().center();
+void ClickMouse(QWidget& widget, const QPointF& place) {
   const QPointF on_screen = widget.mapToGlobal(place);
   QMouseEvent press(QEvent::MouseButtonPress, place, on_screen, Qt::LeftButton, Qt::LeftButton,
                     Qt::NoModifier);
@@ -46,7 +45,9 @@ Widget* Hand::Find(int control) {
 }
 
 void Hand::Click(int control) {
-  if (auto* const button = Find<QAbstractButton>(control)) ClickMouse(*button);
+  if (auto* const button = Find<QAbstractButton>(control)) {
+    ClickMouse(*button, button->rect().center());
+  }
 }
 
 // By an input method, as Japanese text is typed.
@@ -68,6 +69,17 @@ void Hand::PickFromCombo(int control, int row) {
   PressKey(*combo->view(), Qt::Key_Home);
   for (int i = 0; i < row; ++i) PressKey(*combo->view(), Qt::Key_Down);
   PressKey(*combo->view(), Qt::Key_Return);
+}
+
+void Hand::PickFromList(int control, int row) {
+  auto* const widget = Find<QWidget>(control);
+  if (!widget) return;
+  auto* list = qobject_cast<QAbstractItemView*>(widget);
+  if (!list) list = widget->findChild<QAbstractItemView*>();
+  const QModelIndex index = list ? list->model()->index(row, 0) : QModelIndex();
+  if (!index.isValid()) return fail_(QString("control %1 has no row %2").arg(control).arg(row));
+  list->scrollTo(index);
+  ClickMouse(*list->viewport(), list->visualRect(index).center());
 }
 
 void Hand::TakePicture() {

@@ -18,6 +18,7 @@ class Hand {
   void Click(int control);                      // a button of any kind
   void Type(int control, const QString& text);  // instead of the text of an edit box
   void PickFromCombo(int control, int row);
+  void PickFromList(int control, int row);  // a list box, or a combo box that is always open
   void TakePicture();
 
  private:

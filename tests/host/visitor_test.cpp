@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <QDialog>
+#include <QListWidget>
 #include <QPushButton>
 #include <QTemporaryDir>
 
@@ -45,6 +46,24 @@ TEST_F(VisitorTest, PlaysTheStepsInOrder) {
   EXPECT_THAT(FailuresOf({{7, &Hand::TakePicture}, {7, &Hand::TakePicture}, {7, End}}), IsEmpty());
   EXPECT_TRUE(QFile::exists(pictures_.filePath("picture-1.png")));
   EXPECT_TRUE(QFile::exists(pictures_.filePath("picture-2.png")));
+}
+
+TEST_F(VisitorTest, PicksRowsOfAListAndOfAListInsideAControl) {
+  QWidget frame(&dialog_);
+  frame.setObjectName("3");
+  QListWidget inner(&frame);
+  QListWidget outer(&dialog_);
+  outer.setObjectName("4");
+  for (QListWidget* list : {&inner, &outer}) list->addItems({"a", "b", "c"});
+  const auto pick = [](Hand& hand) {
+    hand.PickFromList(3, 1);
+    hand.PickFromList(4, 2);
+    hand.PickFromList(4, 3);
+    End(hand);
+  };
+  EXPECT_THAT(FailuresOf({{7, pick}}), ElementsAre(HasSubstr("no row 3")));
+  EXPECT_EQ(inner.currentRow(), 1);
+  EXPECT_EQ(outer.currentRow(), 2);
 }
 
 TEST_F(VisitorTest, ReportsWhatCannotBeUsed) {
