@@ -7,6 +7,48 @@
 namespace orreryui::host {
 namespace {
 
+std::string PaletteFolder() { return std::string(kDataFolder) + "/palettes/"; }
+
+Operation MapPalleteSet() {
+  Operation operation;
+  operation.name = "OnMapPalleteSet";
+  operation.purpose = "Choose a palette and edit the palettes";
+  operation.arguments = {
+      {"SELECTED", "number of the palette chosen so far, from 0", "0"},
+      {"EDITOR", "command of the text editor", "xdg-open"},
+      {"FOLDER", "folder of PLTTFILE.DAT, with its separator", PaletteFolder()},
+      {"SEA", "not used", "0"},
+      {"LAKE", "colour of lakes: red + 256 * green + 65536 * blue", "15775330"},
+      {"BACKGROUND", "colour of the map's background, in the same way", "16777215"},
+  };
+  operation.fields = {
+      {"selected", "number of the chosen palette", 0},
+      {"sea, red", "the sea of the palette", std::nullopt},
+      {"sea, green", "the sea of the palette", std::nullopt},
+      {"sea, blue", "the sea of the palette", std::nullopt},
+      {"lake, red", "lakes", 4, 1},
+      {"lake, green", "lakes", 4, 256},
+      {"lake, blue", "lakes", 4, 65536},
+      {"background, red", "the map's background", 5, 1},
+      {"background, green", "the map's background", 5, 256},
+      {"background, blue", "the map's background", 5, 65536},
+  };
+  operation.ends_in_number = true;
+  return Describe(&OnMapPalleteSet, operation);
+}
+
+Operation LegendElevetion() {
+  Operation operation;
+  operation.name = "OnLegendElevetion";
+  operation.purpose = "Show the colours of the elevations";
+  operation.arguments = {
+      {"PALETTE", "number of the palette, from 0", "5"},
+      {"FOLDER", "folder of PLTTFILE.DAT, with its separator", PaletteFolder()},
+      {"LAKE", "colour of lakes: red + 256 * green + 65536 * blue", "15775330"},
+  };
+  return Describe(&OnLegendElevetion, operation);
+}
+
 Operation DataSourceSet() {
   Operation operation;
   operation.name = "OnDataSourceSet";
@@ -82,7 +124,7 @@ Operation MapTypeSet() {
       {"FILL", "10000 * projection of the map by prefecture + 1 for a tint map", "10001"},
       {"COAST", "10000 * coastline by prefecture + 100 * topographic coastline + method", "50102"},
       {"COAST-ON-TINT", "1 if a tint map has a coastline colour too", "1"},
-      {"FOLDER", "folder of PLTTFILE.DAT, with its separator", std::string(kDataFolder) + "/"},
+      {"FOLDER", "folder of PLTTFILE.DAT, with its separator", PaletteFolder()},
       {"REGION", "the whole and the 47 prefectures, 1 for those chosen, and a tail", WholeRegion()},
   };
   operation.fields = {
@@ -104,8 +146,9 @@ Operation MapTypeSet() {
 }  // namespace
 
 const std::vector<Operation>& Operations() {
-  static const std::vector<Operation> operations = {DataSourceSet(), MapTypeSet(), TextDisplay(),
-                                                    MemoDisplay(), RangeConfirm()};
+  static const std::vector<Operation> operations = {
+      MapTypeSet(),  MapPalleteSet(), LegendElevetion(), DataSourceSet(),
+      TextDisplay(), MemoDisplay(),   RangeConfirm()};
   return operations;
 }
 

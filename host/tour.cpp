@@ -13,8 +13,8 @@ namespace orreryui::host {
 namespace {
 
 std::vector<Visit> Visits() {
-  return {VisitDataSourceSet(), VisitMapTypeSet(), VisitTextDisplay(), VisitMemoDisplay(),
-          VisitRangeConfirm()};
+  return {VisitMapTypeSet(),  VisitMapPalleteSet(), VisitLegendElevetion(), VisitDataSourceSet(),
+          VisitTextDisplay(), VisitMemoDisplay(),   VisitRangeConfirm()};
 }
 
 void PrintFields(const Operation& operation, const std::string& result) {

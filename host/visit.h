@@ -25,6 +25,8 @@ struct Visit {
 };
 
 // Each in a file of its own under visits/.
+Visit VisitMapPalleteSet();
+Visit VisitLegendElevetion();
 Visit VisitDataSourceSet();
 Visit VisitMapTypeSet();
 Visit VisitMemoDisplay();
