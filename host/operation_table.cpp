@@ -49,6 +49,56 @@ Operation LegendElevetion() {
   return Describe(&OnLegendElevetion, operation);
 }
 
+std::string AlbumFolder() { return std::string(kDataFolder) + "/album/"; }
+
+// Kamakura station.
+constexpr char kLongitude[] = "139.5503";
+constexpr char kLatitude[] = "35.3190";
+
+Operation DllAlbumRegist() {
+  Operation operation;
+  operation.name = "OnDLLAlbumRegist";
+  operation.purpose = "Make an album of a point on the map";
+  operation.arguments = {
+      {"CODE", "comes back unchanged", "1"},
+      {"LONGITUDE", "of the point", kLongitude},
+      {"LATITUDE", "of the point", kLatitude},
+      {"ALBUM", "path of the album file that is made", AlbumFolder() + "new.alb"},
+      {"NUMBER", "number of the album, to be shown", "2"},
+  };
+  operation.fields = {
+      {"code", "as it was passed in", 0},
+      {"longitude", "of the point", 1},
+      {"latitude", "of the point", 2},
+      {"place", "name of the point", std::nullopt},
+      {"item", "what the point is", std::nullopt},
+  };
+  operation.result_unless_ok = "4||||";
+  return Describe(&OnDLLAlbumRegist, operation);
+}
+
+Operation AlbumUpdate() {
+  Operation operation;
+  operation.name = "OnAlbumUpdate";
+  operation.purpose = "Look at an album and change it";
+  operation.arguments = {
+      {"CODE", "comes back, as long as the update goes on", "1"},
+      {"STATE", "\"new\" makes the album file, any other word reads it", "old"},
+      {"ALBUM", "path of the album file", AlbumFolder() + "kamakura.alb"},
+      {"PLACE", "name of the point", "鎌倉駅"},
+      {"ITEM", "what the point is", "散歩の起点"},
+      {"LONGITUDE", "of the point", kLongitude},
+      {"LATITUDE", "of the point", kLatitude},
+      {"EDITOR", "command of the text editor", "xdg-open"},
+  };
+  operation.fields = {
+      {"code", "as it was passed in, or 0", std::nullopt},
+      {"end", "1: store the point, 2: go on, 3: delete the album", std::nullopt},
+      {"point", "place, latitude, longitude and item, a blank behind each", std::nullopt},
+  };
+  return Describe(&OnAlbumUpdate, operation);
+}
+
 Operation DataSourceSet() {
   Operation operation;
   operation.name = "OnDataSourceSet";
@@ -147,8 +197,8 @@ Operation MapTypeSet() {
 
 const std::vector<Operation>& Operations() {
   static const std::vector<Operation> operations = {
-      MapTypeSet(),  MapPalleteSet(), LegendElevetion(), DataSourceSet(),
-      TextDisplay(), MemoDisplay(),   RangeConfirm()};
+      MapTypeSet(),  MapPalleteSet(), LegendElevetion(), DataSourceSet(), DllAlbumRegist(),
+      AlbumUpdate(), TextDisplay(),   MemoDisplay(),     RangeConfirm()};
   return operations;
 }
 

@@ -3,22 +3,30 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QDirIterator>
+#include <QFile>
+
+#include "platform/code_page_932.h"
 
 namespace orreryui::host {
 namespace {
 
-// A copy of a file that can't be written is of no use, so the permissions aren't copied.
-bool CopyFile(const QString& from, const QString& to) {
-  return QFile::copy(from, to) && QFile::setPermissions(to, QFile::ReadOwner | QFile::WriteOwner);
+// Paths within the data name their folder as the start values do. `folder` takes its place.
+bool CopyFile(const QString& from, const QString& to, const QByteArray& folder) {
+  QFile original(from);
+  QFile copy(to);
+  if (!original.open(QIODevice::ReadOnly) || !copy.open(QIODevice::WriteOnly)) return false;
+  const QByteArray content = original.readAll().replace(kDataFolder, folder);
+  return copy.write(content) == content.size() && copy.flush();
 }
 
 bool CopyTree(const QDir& from, const QDir& to) {
+  const QByteArray folder = QByteArray::fromStdString(FromUtf8(to.path().toStdString()).bytes);
   QDirIterator entries(from.path(), QDir::Files, QDirIterator::Subdirectories);
   bool copied = entries.hasNext();
   while (entries.hasNext()) {
     const QString file = entries.next();
     const QString target = to.filePath(from.relativeFilePath(file));
-    copied = to.mkpath(QFileInfo(target).path()) && CopyFile(file, target) && copied;
+    copied = to.mkpath(QFileInfo(target).path()) && CopyFile(file, target, folder) && copied;
   }
   return copied;
 }

@@ -13,8 +13,9 @@ namespace orreryui::host {
 namespace {
 
 std::vector<Visit> Visits() {
-  return {VisitMapTypeSet(),  VisitMapPalleteSet(), VisitLegendElevetion(), VisitDataSourceSet(),
-          VisitTextDisplay(), VisitMemoDisplay(),   VisitRangeConfirm()};
+  return {VisitMapTypeSet(),    VisitMapPalleteSet(),  VisitLegendElevetion(),
+          VisitDataSourceSet(), VisitDllAlbumRegist(), VisitAlbumUpdate(),
+          VisitTextDisplay(),   VisitMemoDisplay(),    VisitRangeConfirm()};
 }
 
 void PrintFields(const Operation& operation, const std::string& result) {

@@ -27,6 +27,8 @@ struct Visit {
 // Each in a file of its own under visits/.
 Visit VisitMapPalleteSet();
 Visit VisitLegendElevetion();
+Visit VisitDllAlbumRegist();
+Visit VisitAlbumUpdate();
 Visit VisitDataSourceSet();
 Visit VisitMapTypeSet();
 Visit VisitMemoDisplay();
