@@ -33,9 +33,9 @@ std::size_t SlotOf(int id) {
 std::span<const Message<CDlgPalette>> CDlgPalette::Messages() {
   static constexpr Message<CDlgPalette> kMessages[] = {
       {kSwatches[0], kSwatches[9], Event::kClick, &CDlgPalette::OnColour},
-      {kSwatches[10], kSwatches[10], Event::kClick, &CDlgPalette::OnColour},
-      {kSwatches[11], kSwatches[11], Event::kClick, &CDlgPalette::OnColour},
-      {kSwatches[12], kSwatches[12], Event::kClick, &CDlgPalette::OnColour},
+      {kSwatches[10], Event::kClick, &CDlgPalette::OnColour},
+      {kSwatches[11], Event::kClick, &CDlgPalette::OnColour},
+      {kSwatches[12], Event::kClick, &CDlgPalette::OnColour},
       {kNames, Event::kSelectionChange, &CDlgPalette::OnSelectPalette},
       {kCheck, Event::kClick, &CDlgPalette::OnToggleCheck},
       {kEdit, Event::kClick, &CDlgPalette::OnEdit},
