@@ -13,6 +13,7 @@ namespace {
 constexpr char kPlugIn[] = "orreryui/liborreryui-qt.so";
 
 ScopedFrontEnd* replacement = nullptr;
+FrontEndFunction* plug_in = nullptr;  // once it is loaded
 
 // The file that this code was loaded from, as the loader spelled it.
 std::string OwnFile() {
@@ -37,25 +38,29 @@ std::string OwnMappedFile() {
   return "";
 }
 
+FrontEndFunction* LoadFunction(const std::string& path) {
+  void* const module = dlopen(path.c_str(), RTLD_NOW | RTLD_LOCAL | RTLD_NODELETE);
+  return module ? reinterpret_cast<FrontEndFunction*>(dlsym(module, kFrontEndSymbol)) : nullptr;
+}
+
 // A path that isn't a full one would lead to whatever lies in the working directory.
-FrontEnd* LoadPlugInBeside(const std::string& file) {
+FrontEndFunction* LoadPlugInBeside(const std::string& file) {
   if (file.empty() || file.front() != '/') return nullptr;
-  return LoadFrontEnd(file.substr(0, file.rfind('/') + 1) + kPlugIn);
+  return LoadFunction(file.substr(0, file.rfind('/') + 1) + kPlugIn);
 }
 
 }  // namespace
 
 FrontEnd* LoadFrontEnd(const std::string& path) {
-  void* const module = dlopen(path.c_str(), RTLD_NOW | RTLD_LOCAL | RTLD_NODELETE);
-  if (!module) return nullptr;
-  auto* const function = reinterpret_cast<FrontEndFunction*>(dlsym(module, kFrontEndSymbol));
+  FrontEndFunction* const function = LoadFunction(path);
   return function ? function(kFrontEndVersion) : nullptr;
 }
 
 FrontEnd* CurrentFrontEnd() {
   if (replacement) return replacement->front_end_;
-  FrontEnd* const beside = LoadPlugInBeside(OwnFile());
-  return beside ? beside : LoadPlugInBeside(OwnMappedFile());
+  if (!plug_in) plug_in = LoadPlugInBeside(OwnFile());
+  if (!plug_in) plug_in = LoadPlugInBeside(OwnMappedFile());
+  return plug_in ? plug_in(kFrontEndVersion) : nullptr;
 }
 
 ScopedFrontEnd::ScopedFrontEnd(FrontEnd* front_end)

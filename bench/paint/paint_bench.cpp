@@ -46,7 +46,9 @@ struct DialogRecipe {
 // The name of the class of Qt that a widget is, or is derived from.
 QByteArray QtClassOf(const QWidget& widget) {
   const QMetaObject* meta = widget.metaObject();
-  while (meta->className()[0] != 'Q' || qstrchr(meta->className(), ':')) meta = meta->superClass();
+  while (QByteArray(meta->className()).contains("::") || meta->className()[0] != 'Q') {
+    meta = meta->superClass();
+  }
   return meta->className();
 }
 

@@ -64,7 +64,9 @@ bool HasApplication() {
 }
 
 bool FindOrMakeApplication() {
-  if (HasForeignQt()) return false;
+  static bool found_before = false;
+  if (!found_before && HasForeignQt()) return false;
+  found_before = true;
   if (QCoreApplication::instance() != nullptr) return HasApplication();
   const std::optional<QByteArray> platform = UsablePlatform();
   if (!platform) return false;

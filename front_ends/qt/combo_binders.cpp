@@ -1,6 +1,7 @@
 #include "front_ends/qt/combo_binders.h"
 
 #include <QAbstractItemView>
+#include <QCompleter>
 #include <QScrollBar>
 #include <QVBoxLayout>
 
@@ -12,10 +13,14 @@ namespace {
 
 // A combo box with an edit field, made ready before anything is bound to that field.
 QComboBox* MakeCombo(QWidget* parent) {
+  // A combo box gives its field a completer, at some cost, unless the field has one already.
+  static auto* const no_completer = new QCompleter;
   auto* combo = new QComboBox(parent);
-  combo->setEditable(true);
-  combo->setInsertPolicy(QComboBox::NoInsert);
+  auto* line = new QLineEdit(combo);
+  line->setCompleter(no_completer);
+  combo->setLineEdit(line);
   combo->setCompleter(nullptr);
+  combo->setInsertPolicy(QComboBox::NoInsert);
   combo->setFocusPolicy(Qt::StrongFocus);
   // Leaving the box with the text of an item in it isn't a choice of that item.
   QObject::disconnect(combo->lineEdit(), SIGNAL(editingFinished()), combo, nullptr);

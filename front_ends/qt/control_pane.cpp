@@ -52,6 +52,8 @@ void ControlPane::AddControl(int index) {
   if (view.id != kNoControlId) binder.widget()->setObjectName(QString::number(view.id));
   const bool breaks_lines = view.kind == ControlKind::kMultiLineEdit;
   for (QWidget* widget : binder.FocusWidgets()) filter_.Watch(widget, index, view.id, breaks_lines);
+  // A widget that has a size isn't asked for its own wish when it is shown.
+  binder.widget()->resize(1, 1);
   binder.Show(view);
 }
 

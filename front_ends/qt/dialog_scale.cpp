@@ -1,6 +1,5 @@
 #include "front_ends/qt/dialog_scale.h"
 
-#include <QFontMetricsF>
 #include <QString>
 #include <algorithm>
 #include <cmath>
@@ -11,7 +10,7 @@ namespace orreryui {
 
 DialogScale DialogScale::Of(const QFont& font) {
   const QString latin = QStringLiteral("ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz");
-  const double average = QFontMetricsF(font).horizontalAdvance(latin) / double(latin.size());
+  const double average = TextSize(latin, font).width() / double(latin.size());
   const double full_width = TextSize(QStringLiteral("国"), font).width();
   return {std::max(average / 4, full_width / 8), double(LineHeight(font)) / 8};
 }

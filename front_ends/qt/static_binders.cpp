@@ -8,16 +8,13 @@ namespace orreryui {
 StaticBinder::StaticBinder(const BinderPlace& place)
     : ControlBinder(place), label_(new QLabel(place.parent)) {
   label_->setTextFormat(Qt::PlainText);
-  label_->setWordWrap(true);
   label_->setIndent(0);
 }
 
 void StaticBinder::ShowState(const ControlView& view) {
   label_->setAlignment((view.right_aligned ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
   const QString text = FromLines(view.text);
-  if (label_->text() == text) return;
-  label_->setText(text);
-  ShowOverflow();
+  if (label_->text() != text) label_->setText(text);
 }
 
 QSize StaticBinder::Needed(const ControlView& view, QSize offered) const {
@@ -26,6 +23,8 @@ QSize StaticBinder::Needed(const ControlView& view, QSize offered) const {
 
 void StaticBinder::Arrange(const ControlView& view, const DialogScale& scale) {
   ControlBinder::Arrange(view, scale);
+  // Text that wraps takes longer to draw.
+  label_->setWordWrap(TextSize(label_->text(), label_->font()).width() > label_->width());
   ShowOverflow();
 }
 

@@ -1,12 +1,14 @@
 #include "front_ends/qt/text_fit.h"
 
 #include <QFontMetrics>
+#include <QHash>
 #include <QRegularExpression>
 #include <QStringList>
 #include <QTextLayout>
 #include <QTextOption>
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace orreryui {
 namespace {
@@ -28,6 +30,18 @@ void ForEachLine(const QString& paragraph, const QFont& font, qreal width, Funct
 
 constexpr qreal kUnbounded = 1e6;
 
+QSize MeasuredSize(const QString& text, const QFont& font) {
+  qreal width = 0;
+  qreal height = 0;
+  for (const QString& paragraph : text.split(QLatin1Char('\n'))) {
+    ForEachLine(paragraph, font, kUnbounded, [&](const QTextLine& line) {
+      width = std::max(width, line.horizontalAdvance());
+      height += std::max(line.height(), qreal(QFontMetrics(font).height()));
+    });
+  }
+  return {int(std::ceil(width)), int(std::ceil(height))};
+}
+
 }  // namespace
 
 QString BreakLines(const QString& text, const QFont& font, int width) {
@@ -48,16 +62,18 @@ QString BreakLines(const QString& text, const QFont& font, int width) {
   return lines.join(QLatin1Char('\n'));
 }
 
+// Dialogs ask for the same texts each time they open, and shaping a text costs more than drawing it.
 QSize TextSize(const QString& text, const QFont& font) {
-  qreal width = 0;
-  qreal height = 0;
-  for (const QString& paragraph : text.split(QLatin1Char('\n'))) {
-    ForEachLine(paragraph, font, kUnbounded, [&](const QTextLine& line) {
-      width = std::max(width, line.horizontalAdvance());
-      height += std::max(line.height(), qreal(QFontMetrics(font).height()));
-    });
-  }
-  return {int(std::ceil(width)), int(std::ceil(height))};
+  constexpr int kLongest = 200;
+  constexpr int kMostTexts = 2000;
+  if (text.size() > kLongest) return MeasuredSize(text, font);
+  // Kept for ever: nothing of Qt may be touched while the process ends.
+  static auto& known = *new QHash<std::pair<QFont, QString>, QSize>;
+  const std::pair<QFont, QString> key(font, text);
+  const auto found = known.constFind(key);
+  if (found != known.cend()) return *found;
+  if (known.size() >= kMostTexts) known.clear();
+  return *known.insert(key, MeasuredSize(text, font));
 }
 
 int LineHeight(const QFont& font) { return TextSize(QStringLiteral("漢あAg"), font).height(); }
