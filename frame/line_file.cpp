@@ -10,7 +10,7 @@
 namespace orreryui {
 namespace {
 
-constexpr std::size_t kBlockSize = 65536;
+constexpr std::size_t kBlockSize = 131072;
 
 // Writes `content` over the whole of an open file.
 bool Overwrite(File& file, std::string_view content) {
