@@ -161,6 +161,36 @@ Decoded ReadCodePage(std::string_view bytes) {
   return decoded;
 }
 
+// A text whose line ends, however they are written, count as one character each.
+struct Folded {
+  std::u32string characters;
+  std::vector<std::size_t> places;  // where each of them begins, and the end of the text
+};
+
+Folded FoldLineEnds(std::u32string_view text) {
+  Folded folded;
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    const bool ends_line = text[i] == U'\r' || text[i] == U'\n';
+    folded.characters += ends_line ? U'\n' : text[i];
+    folded.places.push_back(i);
+    if (text[i] == U'\r' && i + 1 < text.size() && text[i + 1] == U'\n') ++i;
+  }
+  folded.places.push_back(text.size());
+  return folded;
+}
+
+std::size_t CommonStart(std::u32string_view a, std::u32string_view b) {
+  const std::size_t most = std::min(a.size(), b.size());
+  return static_cast<std::size_t>(std::mismatch(a.begin(), a.begin() + most, b.begin()).first -
+                                  a.begin());
+}
+
+std::size_t CommonEnd(std::u32string_view a, std::u32string_view b) {
+  const std::size_t most = std::min(a.size(), b.size());
+  return static_cast<std::size_t>(std::mismatch(a.rbegin(), a.rbegin() + most, b.rbegin()).first -
+                                  a.rbegin());
+}
+
 }  // namespace
 
 std::string ToUtf8(std::string_view bytes) {
@@ -204,24 +234,25 @@ Encoded FromUtf8(std::string_view text) {
 }
 
 Encoded MergeEdit(std::string_view old_bytes, std::string_view new_text) {
-  const Decoded old = ReadCodePage(old_bytes);
+  const Decoded decoded = ReadCodePage(old_bytes);
   const std::u32string text = ReadComposed(new_text);
-  const std::size_t old_size = old.characters.size();
-  const std::size_t shorter = std::min(old_size, text.size());
-  std::size_t head = 0;
-  while (head < shorter && old.characters[head] == text[head]) ++head;
-  std::size_t tail = 0;
-  while (tail < shorter - head &&
-         old.characters[old_size - 1 - tail] == text[text.size() - 1 - tail]) {
-    ++tail;
-  }
+  const Folded old_line = FoldLineEnds(decoded.characters);
+  const Folded new_line = FoldLineEnds(text);
+  const std::size_t old_size = old_line.characters.size();
+  const std::size_t new_size = new_line.characters.size();
+  const std::size_t head = CommonStart(old_line.characters, new_line.characters);
+  const std::size_t tail = CommonEnd(std::u32string_view(old_line.characters).substr(head),
+                                     std::u32string_view(new_line.characters).substr(head));
 
-  const std::size_t head_end = old.starts[head];
+  const auto old_start = [&](std::size_t i) { return decoded.starts[old_line.places[i]]; };
+  const std::size_t head_end = old_start(head);
   Encoded result{std::string(old_bytes.substr(0, head_end)), ""};
-  Encoded rest = Encode(std::u32string_view(text).substr(head, text.size() - head - tail));
-  rest.bytes += old_bytes.substr(old.starts[old_size - tail]);
+  const std::size_t begin = new_line.places[head];
+  const std::size_t end = new_line.places[new_size - tail];
+  Encoded rest = Encode(std::u32string_view(text).substr(begin, end - begin));
+  rest.bytes += old_bytes.substr(old_start(old_size - tail));
   const bool ends_in_lone_lead =
-      head > 0 && head_end - old.starts[head - 1] == 1 && IsLeadByte(result.bytes.back());
+      head > 0 && head_end - old_start(head - 1) == 1 && IsLeadByte(result.bytes.back());
   if (ends_in_lone_lead && !rest.bytes.empty() && IsTrailByte(rest.bytes[0])) {
     result.bytes.pop_back();
     AppendUtf8(result.refused, kReplacementCharacter);

@@ -252,5 +252,12 @@ TEST(MergeEdit, AnUneditedBoxKeepsEveryByte) {
   }
 }
 
+TEST(MergeEdit, LinesThatStayKeepTheLineEndsThatTheyHave) {
+  EXPECT_EQ(MergeEdit("a\nb\rc\r\nd", "a\r\nb\r\nc\r\nd").bytes, "a\nb\rc\r\nd");
+  EXPECT_EQ(MergeEdit("a\nb\nc", "a\r\nbx\r\nc").bytes, "a\nbx\nc");
+  EXPECT_EQ(MergeEdit("a\nb", "a\r\n\r\nb").bytes, "a\n\r\nb");
+  EXPECT_EQ(MergeEdit("a\nb", "ab").bytes, "ab");
+}
+
 }  // namespace
 }  // namespace orreryui
