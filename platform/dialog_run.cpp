@@ -72,6 +72,8 @@ void DialogRun::Start(DialogWindow& window) {
   Gesture gesture(*this);
   FocusFirstControl();
   Initialise();
+  // It may have hidden or disabled that control.
+  if (focus_run_ == this && Target(Model().At(focus_).id) < 0) FocusFirstControl();
 }
 
 void DialogRun::Initialise() {
@@ -166,10 +168,10 @@ void DialogRun::ClickRadioButton(int index) {
 }
 
 TypedText DialogRun::Type(int id, const std::string& text) {
-  const int index = Target(id);
+  const int index = Model().IndexOf(id);
   Gesture gesture(*this);
   if (index < 0 || !Model().At(index).HasEditField()) return {};
-  if (!gesture) return {ToUtf8(Model().At(index).ShownText()), {}};
+  if (!gesture || Target(id) < 0) return {ToUtf8(Model().At(index).ShownText()), {}};
   MoveFocus(index);
   const orreryui::Control& control = Model().At(index);
   const bool multi_line = control.kind == ControlKind::kMultiLineEdit;
@@ -181,13 +183,18 @@ TypedText DialogRun::Type(int id, const std::string& text) {
   return {ToUtf8(Model().At(index).ShownText()), typed.refused};
 }
 
+bool DialogRun::HasRow(int index, int row) const {
+  const orreryui::Control& control = Model().At(index);
+  return control.IsList() && row >= 0 && row < static_cast<int>(control.rows.size());
+}
+
 void DialogRun::Pick(int id, int row) {
   const int index = Target(id);
   Gesture gesture(*this);
-  if (!gesture || index < 0 || !Model().At(index).IsList()) return;
-  if (row < 0 || row >= static_cast<int>(Model().At(index).rows.size())) return;
+  if (!gesture || index < 0 || !HasRow(index, row)) return;
   MoveFocus(index);
-  if (Ended()) return;
+  // The handler of the focus that was lost may have changed the list.
+  if (Ended() || !HasRow(index, row)) return;
   if (Model().At(index).kind == ControlKind::kTab) {
     PickTab(index, row);
   } else {
@@ -213,10 +220,10 @@ void DialogRun::SelectRow(int index, int row) {
 void DialogRun::DoubleClick(int id, int row, int column) {
   const int index = Target(id);
   Gesture gesture(*this);
-  if (!gesture || index < 0 || !Model().At(index).IsList()) return;
-  if (row < 0 || row >= static_cast<int>(Model().At(index).rows.size())) return;
+  if (!gesture || index < 0 || !HasRow(index, row)) return;
+  if (Model().At(index).kind == ControlKind::kTab) return;
   MoveFocus(index);
-  if (Ended()) return;
+  if (Ended() || !HasRow(index, row)) return;
   if (Model().At(index).selection != row) SelectRow(index, row);
   dialog_.clicked_column_ = column;
   Send(id, Event::kDoubleClick);
@@ -237,12 +244,13 @@ void DialogRun::Enter() {
   if (!root.focus_run_) return root.PressDefaultButton();
   DialogRun& run = *root.focus_run_;
   const orreryui::Control& control = run.Model().At(root.focus_);
+  const bool reached = run.IsShown() && run.Target(control.id) >= 0;
   const bool is_button =
       control.kind == ControlKind::kPushButton || control.kind == ControlKind::kSwatch;
-  if (control.kind == ControlKind::kMultiLineEdit) {
+  if (reached && control.kind == ControlKind::kMultiLineEdit) {
     run.Model().Change(root.focus_).ReplaceShownText(std::string(control.ShownText()) + "\r\n");
     run.Send(control.id, Event::kChange);
-  } else if (is_button && run.Target(control.id) >= 0) {
+  } else if (reached && is_button) {
     run.Send(control.id, Event::kClick);
   } else {
     root.PressDefaultButton();

@@ -55,7 +55,8 @@ class DialogRun : public DialogSession {
   DialogModel& Model() const { return dialog_.model_; }
 
   int Target(int id) const;  // the index of a control that the user can reach, or -1
-  bool IsShown() const;      // a page is, while its tab is selected
+  bool HasRow(int index, int row) const;
+  bool IsShown() const;  // a page is, while its tab is selected
   void Send(int id, Event event);
   void PressDefaultButton();
   void ClickRadioButton(int index);

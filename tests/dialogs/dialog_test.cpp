@@ -186,6 +186,7 @@ TEST_F(DialogTest, NothingReachesWhatTheUserCannotReach) {
     d.EnableWindow(kPush, false);
     d.ShowWindow(kEdit, false);
     d.EnableWindow(kSecondPush, false);
+    d.EnableWindow(kMulti, false);
   };
   script.OpensDialog(1).ShowsReach(kEdit, false, true).ShowsReach(kPush, true, false);
   script.Does([](DialogSession& session) {
@@ -201,6 +202,31 @@ TEST_F(DialogTest, NothingReachesWhatTheUserCannotReach) {
   });
   script.Shows(kEdit, "").Escape();
   EXPECT_EQ(Run(), "2 click; ");
+}
+
+TEST_F(DialogTest, TheFirstFocusIsAControlThatTheStartLeftInReach) {
+  dialog.on_init = [](Recorder& d) { d.EnableWindow(kEdit, false); };
+  script.OpensDialog(1).Does([](DialogSession& session) {
+    return session.Layout().focus == kMulti ? "" : "the focus is elsewhere";
+  });
+  script.Click(kPush).Escape();
+  EXPECT_EQ(Run(), "41 lost; 10 click; 2 click; ");
+}
+
+TEST_F(DialogTest, EnterTypesNothingIntoABoxThatWasDisabledMeanwhile) {
+  dialog.on_event = [](Recorder& d, int id, Event) {
+    if (id == kMulti) d.EnableWindow(kMulti, false);
+  };
+  script.OpensDialog(1).Type(kMulti, "a").Enter().Shows(kMulti, "a").Escape();
+  EXPECT_EQ(Run(), "40 lost; 41 change; 11 click; 2 click; ");
+}
+
+TEST_F(DialogTest, ARowThatGoesWithTheFocusIsNotPicked) {
+  dialog.on_event = [](Recorder& d, int id, Event event) {
+    if (id == kEdit && event == Event::kFocusLost) d.ResetContent(kList);
+  };
+  script.OpensDialog(1).Pick(kList, 1).ShowsSelection(kList, -1).Escape();
+  EXPECT_EQ(Run(), "40 lost; 2 click; ");
 }
 
 TEST_F(DialogTest, NothingIsDispatchedAfterTheEnd) {
