@@ -11,6 +11,7 @@
 #include <string_view>
 
 #include "front_ends/qt/display_probe.h"
+#include "front_ends/qt/display_servers.h"
 #include "front_ends/qt/japanese_labels.h"
 #include "front_ends/qt/process_state.h"
 
@@ -55,12 +56,18 @@ void MakeApplication(const QByteArray& platform) {
   QCoreApplication::installTranslator(labels);
 }
 
+// Qt ends the process when it next looks at a connection that has broken.
+bool ConnectionHolds() {
+  const auto* const x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
+  return x11 == nullptr || XConnectionHolds(x11->connection());
+}
+
 }  // namespace
 
 bool HasApplication() {
   QCoreApplication* const application = QCoreApplication::instance();
   return qobject_cast<QApplication*>(application) != nullptr &&
-         application->thread() == QThread::currentThread();
+         application->thread() == QThread::currentThread() && ConnectionHolds();
 }
 
 bool FindOrMakeApplication() {

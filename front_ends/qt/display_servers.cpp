@@ -84,6 +84,19 @@ bool XServerAnswers() {
   return pending.wait_for(kPatience) == std::future_status::ready && pending.get();
 }
 
+bool XConnectionHolds(void* connection) {
+  void* const library = dlopen("libxcb.so.1", RTLD_NOW | RTLD_LOCAL);
+  if (library == nullptr) return true;
+  using Ask = int(void*);
+  auto* const has_error = reinterpret_cast<Ask*>(dlsym(library, "xcb_connection_has_error"));
+  auto* const socket_of = reinterpret_cast<Ask*>(dlsym(library, "xcb_get_file_descriptor"));
+  if (has_error == nullptr || socket_of == nullptr) return true;
+  if (has_error(connection) != 0) return false;
+  // The server may have gone before anybody read from the connection.
+  pollfd socket{socket_of(connection), POLLRDHUP, 0};
+  return poll(&socket, 1, 0) <= 0 || (socket.revents & (POLLRDHUP | POLLHUP | POLLERR)) == 0;
+}
+
 bool WaylandServerAnswers() {
   if (std::getenv("WAYLAND_SOCKET") != nullptr) return true;
   const std::string path = WaylandSocketPath();

@@ -10,6 +10,9 @@ namespace orreryui {
 bool XServerAnswers();
 bool WaylandServerAnswers();
 
+// Whether a connection to an X server still stands. `connection` is an xcb_connection_t.
+bool XConnectionHolds(void* connection);
+
 }  // namespace orreryui
 
 #endif  // ORRERYUI_FRONT_ENDS_QT_DISPLAY_SERVERS_H_
