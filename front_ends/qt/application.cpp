@@ -59,7 +59,9 @@ void MakeApplication(const QByteArray& platform) {
 // Qt ends the process when it next looks at a connection that has broken.
 bool ConnectionHolds() {
   const auto* const x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
-  return x11 == nullptr || XConnectionHolds(x11->connection());
+  // Other platforms that have this interface have no connection.
+  xcb_connection_t* const connection = x11 != nullptr ? x11->connection() : nullptr;
+  return connection == nullptr || XConnectionHolds(connection);
 }
 
 }  // namespace
