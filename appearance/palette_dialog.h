@@ -65,7 +65,7 @@ class CDlgPalette : public DialogWithMessages<CDlgPalette> {
   void OnToggleCheck();
   void OnEdit();
 
-  bool IsNewSelected() const { return m_nSelect == m_nNewIndex; }
+  bool IsNewSelected() const { return m_nNewIndex >= 0 && m_nSelect == m_nNewIndex; }
   // The palette in a row, or null: the new entry has none.
   const PaletteEntry* PaletteAt(int index) const;
   CString PathOf(int index) const;
