@@ -181,8 +181,9 @@ class DialogSession {
   // around it. A look at the text and no more: the focus stays where it is.
   virtual void Scroll(int id, int line) = 0;
 
-  // Gestures without a control: the keys, and the request of the system to draw anew. Enter is for
-  // a place where it types no line break; it presses the focused push button, else the default one.
+  // Gestures without a control: the keys, and the request of the system to draw anew. Enter presses
+  // the focused push button, else the default one. In a multi-line edit it adds a line break at the
+  // end of the text; a front end that knows the place of the cursor types it with Type instead.
   virtual void Enter() = 0;
   virtual void Escape() = 0;
   virtual void Paint() = 0;

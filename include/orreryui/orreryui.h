@@ -42,15 +42,14 @@ extern "C" {
 //   fill           10000 * P + T. P is the projection of the map by prefecture: 0 Sanson, 1
 //                  equirectangular. T is 0 for a blank map and 1 for a tint map. The hundreds and
 //                  thousands aren't used.
-//   coast          10000 * C3 + 100 * C1 + M: the indices of the coastline colours of kinds 3 and
-//   1,
+//   coast          10000 * C3 + 100 * C1 + M: the indices of the coastline colours of kinds 3 and 1
 //                  and of the fill method
 //   coast_on_tint  1: a tint map has a coastline colour too; otherwise a blank map alone has one
 //   folder         the folder of the palettes, with its separator
-//   region         one number for the whole of Japan and one for each prefecture in the order of
-//   JIS
-//                  X 0401, 1 for those that are chosen and 0 for the others, each with a bar behind
-//                  it; then "1" if one alone is to be chosen, anything else if several may be
+//   region         one number for the whole of Japan and one for each prefecture, in the order of
+//                  the codes of JIS X 0401: 1 for those that are chosen, 0 for the others, each
+//                  with a bar behind it; then "1" if one alone is to be chosen, anything else if
+//                  several may be
 //
 // Returns ten numbers and a text: 1 if something other than a coastline colour has changed, else
 // -1; palette; K; T; M; 0; P; C1; C3; J; region. A region that the user chose ends in "1".
