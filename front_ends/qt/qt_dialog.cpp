@@ -63,7 +63,7 @@ void QtDialog::RunModally() {
 
 void QtDialog::Build() {
   setObjectName(QString::number(session_.Layout().number));
-  setWindowTitle(FromUtf8(session_.Layout().title));
+  setWindowTitle(LiteralTitle(FromUtf8(session_.Layout().title)));
   pane_ = new ControlPane(session_, *this, this);
   pane_->Build();
   scale_ = DialogScale::Of(font());
@@ -160,7 +160,7 @@ void QtDialog::RefreshLayout() {
   if (pane_ == nullptr) return;
   FocusChanged();
   const DialogLayout now = session_.Layout();
-  setWindowTitle(FromUtf8(now.title));
+  setWindowTitle(LiteralTitle(FromUtf8(now.title)));
   const bool moved = now.placement != placed_.placement || now.x != placed_.x || now.y != placed_.y;
   if (moved && isVisible()) Place();
 }

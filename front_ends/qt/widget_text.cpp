@@ -11,6 +11,11 @@ QString Literal(const QString& label) {
   return literal.replace(QLatin1Char('&'), QLatin1String("&&"));
 }
 
+QString LiteralTitle(const QString& title) {
+  QString literal = title;
+  return literal.replace(QLatin1String("[*]"), QLatin1String("[*][*]"));
+}
+
 QString FromLines(const std::string& text) {
   QString lines = FromUtf8(text);
   lines.replace(QLatin1String("\r\n"), QLatin1String("\n"));

@@ -13,6 +13,9 @@ std::string ToUtf8(const QString& text);
 // A label in which & is an ordinary character, for widgets that would take it as a mnemonic.
 QString Literal(const QString& label);
 
+// A window's title in which [*] is ordinary text, where Qt would take it as a mark for changes.
+QString LiteralTitle(const QString& title);
+
 // The text of a multi-line edit: LF inside the widget, CR LF in the model.
 QString FromLines(const std::string& text);
 std::string ToLines(const QString& text);

@@ -6,6 +6,7 @@
 #include <QPushButton>
 #include <QTest>
 #include <QTimer>
+#include <QWindow>
 
 #include "tests/qt/plugin.h"
 
@@ -28,6 +29,18 @@ TEST(Window, IsNamedTitledAndOfFixedSize) {
     session.layout.title = "標高";
     session.window->RefreshLayout();
     EXPECT_EQ(window.windowTitle(), "標高");
+  });
+}
+
+TEST(Window, TheTitleIsShownToTheLetter) {
+  FakeSession session;
+  session.layout.title = "図[*]と[*][*]";
+  session.Add(ControlKind::kPushButton, 1, "OK");
+  RunWithUser(session, [&](QDialog& window) {
+    EXPECT_EQ(window.windowHandle()->title(), "図[*]と[*][*]");
+    session.layout.title = "[*]";
+    session.window->RefreshLayout();
+    EXPECT_EQ(window.windowHandle()->title(), "[*]");
   });
 }
 
