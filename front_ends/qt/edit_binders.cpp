@@ -1,11 +1,31 @@
 #include "front_ends/qt/edit_binders.h"
 
 #include <QSignalBlocker>
+#include <QTextDocument>
+#include <QTextOption>
 
 #include "front_ends/qt/refusal.h"
 #include "front_ends/qt/widget_text.h"
 
 namespace orreryui {
+namespace {
+
+// What the document holds, its lines divided by LF. toPlainText would turn no-break spaces into
+// blanks.
+QString TextOf(const QTextDocument& document) {
+  QString text = document.toRawText();
+  text.replace(QChar::ParagraphSeparator, QLatin1Char('\n'));
+  return text.replace(QChar::LineSeparator, QLatin1Char('\n'));
+}
+
+void Align(QTextDocument& document, Qt::Alignment alignment) {
+  QTextOption option = document.defaultTextOption();
+  if (option.alignment() == alignment) return;
+  option.setAlignment(alignment);
+  document.setDefaultTextOption(option);
+}
+
+}  // namespace
 
 TypedLine::TypedLine(QLineEdit* edit, int id) : edit_(edit), id_(id) {}
 
@@ -56,6 +76,7 @@ TextEditBinder::TextEditBinder(const BinderPlace& place)
 }
 
 void TextEditBinder::ShowState(const ControlView& view) {
+  Align(*edit_->document(), view.right_aligned ? Qt::AlignRight : Qt::AlignLeft);
   const QString text = FromLines(view.text);
   if (!typing_ && text != known_) {
     known_ = text;
@@ -65,7 +86,7 @@ void TextEditBinder::ShowState(const ControlView& view) {
 }
 
 void TextEditBinder::Report() {
-  const QString text = edit_->toPlainText();
+  const QString text = TextOf(*edit_->document());
   if (typing_ || text == known_) return;
   typing_ = true;
   TypedText typed{ToLines(text), {}};
@@ -78,7 +99,7 @@ void TextEditBinder::Report() {
 
 void TextEditBinder::Replace(const QString& text) {
   QTextCursor cursor = edit_->textCursor();
-  const TextChange change = SmallestChange(edit_->toPlainText(), text, cursor.position());
+  const TextChange change = SmallestChange(TextOf(*edit_->document()), text, cursor.position());
   cursor.setPosition(change.begin);
   cursor.setPosition(change.begin + change.length, QTextCursor::KeepAnchor);
   cursor.insertText(change.with);

@@ -95,6 +95,38 @@ TEST(Edits, LinesAreJoinedByCrLf) {
   });
 }
 
+TEST(Edits, NoBreakSpacesStay) {
+  for (ControlKind kind : {kLine, kLines}) {
+    FakeSession session;
+    session.Add(kind, 1, "a\u00A0b");
+    session.layout.focus = 1;
+    RunWithUser(session, [&](QDialog& window) {
+      auto& edit = ControlWidget<QWidget>(window, 1);
+      QTest::keyClick(&edit, Qt::Key_End);
+      QTest::keyClicks(&edit, "c");
+      EXPECT_THAT(session.Take(), ElementsAre("type 1 a\u00A0bc"));
+    });
+  }
+}
+
+TEST(Edits, LinesStandAtTheSideThatTheControlNames) {
+  FakeSession session;
+  session.Add(kLines, 1, "35", 40).right_aligned = true;
+  session.Add(kLines, 2, "35", 40);
+  RunWithUser(session, [&](QDialog& window) {
+    auto& right = ControlWidget<QPlainTextEdit>(window, 1);
+    const auto& left = ControlWidget<QPlainTextEdit>(window, 2);
+    const int middle = right.viewport()->width() / 2;
+    EXPECT_GT(right.cursorRect().left(), middle);
+    EXPECT_LT(left.cursorRect().left(), middle);
+    session.Change(1, [](ControlView& view) { view.text = "139\r\n35"; });
+    right.moveCursor(QTextCursor::End);
+    EXPECT_GT(right.cursorRect().left(), middle);
+    session.Change(1, [](ControlView& view) { view.right_aligned = false; });
+    EXPECT_LT(right.cursorRect().left(), middle);
+  });
+}
+
 TEST(Edits, TextSetByAHandlerReplacesWhatWasTyped) {
   for (ControlKind kind : {kLine, kLines}) {
     FakeSession session;
