@@ -76,6 +76,8 @@ std::optional<std::string> AskFile(QWidget* owner, const FileChooserRequest& req
   dialog.setFileMode(request.must_exist ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
   // Whether an existing file is added to or replaced is decided elsewhere.
   dialog.setOption(QFileDialog::DontConfirmOverwrite);
+  // The label alone is shown, which may name the patterns itself.
+  dialog.setOption(QFileDialog::HideNameFilterDetails);
   dialog.setNameFilters(NameFilters(request));
   dialog.setDefaultSuffix(FromUtf8(request.default_extension));
   LabelInJapanese(dialog, request.must_exist);

@@ -2,8 +2,10 @@
 
 #include <QApplication>
 #include <QColorDialog>
+#include <QComboBox>
 #include <QDialogButtonBox>
 #include <QFileDialog>
+#include <QFileSystemModel>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
@@ -82,6 +84,24 @@ TEST_F(FileChooser, StartsFromTheNameAndIsJapanese) {
     static_cast<QDialog&>(front).accept();
   });
   EXPECT_EQ(front_end_.ChooseFile(request_), InFolder("図.txt"));
+}
+
+TEST_F(FileChooser, FiltersAreLabelledByTheirLabelsAndWorkByTheirPatterns) {
+  request_.filters = {
+      {"地点 files (*.txt)", {"*.txt"}}, {"All files (*.*)", {"*"}}, {"図", {"*.b"}}};
+  ThenInFront([](QWidget& front) {
+    auto* const types = front.findChild<QComboBox*>("fileTypeCombo");
+    auto* const files = front.findChild<QFileSystemModel*>();
+    const char* const labels[] = {"地点 files (*.txt)", "All files (*.*)", "図"};
+    const char* const patterns[] = {"*.txt", "*", "*.b"};
+    for (int row : {0, 1, 2}) {
+      if (row > 0) QTest::keyClick(types, Qt::Key_Down);
+      EXPECT_EQ(types->currentText(), labels[row]);
+      EXPECT_THAT(files->nameFilters(), testing::ElementsAre(patterns[row]));
+    }
+    static_cast<QDialog&>(front).reject();
+  });
+  front_end_.ChooseFile(request_);
 }
 
 TEST_F(FileChooser, CompletesANewNameWithTheExtension) {
