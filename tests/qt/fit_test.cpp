@@ -9,27 +9,13 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QStyle>
-#include <QStyleOptionButton>
 #include <QTest>
 
+#include "tests/qt/fit_checks.h"
 #include "tests/qt/plugin.h"
 
 namespace orreryui {
 namespace {
-
-// The part of a button that its style leaves for the text.
-QSize LabelRoom(const QAbstractButton& button, QStyle::SubElement part) {
-  QStyleOptionButton option;
-  option.initFrom(&button);
-  return button.style()->subElementRect(part, &option, &button).size();
-}
-
-void ExpectRoomForLabel(const QAbstractButton& button, QStyle::SubElement part) {
-  const QSize room = LabelRoom(button, part);
-  const QSize text = button.fontMetrics().size(Qt::TextShowMnemonic, button.text());
-  EXPECT_LE(text.width(), room.width()) << button.text().toStdString();
-  EXPECT_LE(text.height(), button.height()) << button.text().toStdString();
-}
 
 // The rectangles have the height and width that such texts commonly get.
 void AddTightControls(FakeSession& session) {

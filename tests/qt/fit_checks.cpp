@@ -1,0 +1,47 @@
+#include "tests/qt/fit_checks.h"
+
+#include <gtest/gtest.h>
+
+#include <QStyleOptionButton>
+#include <QStyleOptionGroupBox>
+
+namespace orreryui {
+namespace {
+
+QSize LabelRoom(const QAbstractButton& button, QStyle::SubElement part) {
+  QStyleOptionButton option;
+  option.initFrom(&button);
+  return button.style()->subElementRect(part, &option, &button).size();
+}
+
+}  // namespace
+
+void ExpectRoomForLabel(const QAbstractButton& button, QStyle::SubElement part) {
+  const QSize room = LabelRoom(button, part);
+  const QSize text = button.fontMetrics().size(Qt::TextShowMnemonic, button.text());
+  EXPECT_LE(text.width(), room.width()) << button.text().toStdString();
+  EXPECT_LE(text.height(), button.height()) << button.text().toStdString();
+}
+
+void ExpectRoomForText(const QLabel& label) {
+  const QRect room(QPoint(), QSize(label.width(), QWIDGETSIZE_MAX));
+  const int breaks = label.wordWrap() ? Qt::TextWordWrap : 0;
+  const QSize text = label.fontMetrics().boundingRect(room, breaks, label.text()).size();
+  EXPECT_LE(text.width(), label.width()) << label.text().toStdString();
+  EXPECT_LE(text.height(), label.height()) << label.text().toStdString();
+}
+
+void ExpectRoomForTitle(const QGroupBox& box) {
+  QStyleOptionGroupBox option;
+  option.initFrom(&box);
+  option.text = box.title();
+  option.lineWidth = 1;
+  option.subControls = QStyle::SC_GroupBoxFrame | QStyle::SC_GroupBoxLabel;
+  const QRect place =
+      box.style()->subControlRect(QStyle::CC_GroupBox, &option, QStyle::SC_GroupBoxLabel, &box);
+  const QSize text = box.fontMetrics().size(Qt::TextShowMnemonic, box.title());
+  EXPECT_TRUE(box.rect().contains(place)) << box.title().toStdString();
+  EXPECT_LE(text.width(), place.width()) << box.title().toStdString();
+}
+
+}  // namespace orreryui
