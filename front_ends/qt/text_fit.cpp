@@ -62,7 +62,8 @@ QString BreakLines(const QString& text, const QFont& font, int width) {
   return lines.join(QLatin1Char('\n'));
 }
 
-// Dialogs ask for the same texts each time they open, and shaping a text costs more than drawing it.
+// Dialogs ask for the same texts each time they open, and shaping a text costs more than drawing
+// it.
 QSize TextSize(const QString& text, const QFont& font) {
   constexpr int kLongest = 200;
   constexpr int kMostTexts = 2000;

@@ -115,17 +115,17 @@ TEST_F(PaletteFileTest, WritesEachByteAtItsPlace) {
   }
   ASSERT_TRUE(WritePaletteFile(Path(), "配色|表"_sj, colours, PaletteWrite::kNew));
   std::string expected = std::string(";") + "配色|表"_sj + "  " + folder.Path().string() +
-                               "/Orbis1.plt  \r\n" + "   0   0 100 255    青（海域）  1:15\r\n"_sj +
-                               "   1   1 100 255         0m\r\n"
-                               " 100   2 100 255       100m\r\n"
-                               " 200   3 100 255       200m\r\n"
-                               " 500   4 100 255       500m\r\n"
-                               "1000   5 100 255     1,000m\r\n"
-                               "1500   6 100 255     1,500m\r\n"
-                               "2000   7 100 255     2,000m\r\n"
-                               "2500   8 100 255     2,500m\r\n"
-                               "3000   9 100 255     3,000m\r\n"
-                               "4000  10 100 255     4,000m\r\n";
+                         "/Orbis1.plt  \r\n" + "   0   0 100 255    青（海域）  1:15\r\n"_sj +
+                         "   1   1 100 255         0m\r\n"
+                         " 100   2 100 255       100m\r\n"
+                         " 200   3 100 255       200m\r\n"
+                         " 500   4 100 255       500m\r\n"
+                         "1000   5 100 255     1,000m\r\n"
+                         "1500   6 100 255     1,500m\r\n"
+                         "2000   7 100 255     2,000m\r\n"
+                         "2500   8 100 255     2,500m\r\n"
+                         "3000   9 100 255     3,000m\r\n"
+                         "4000  10 100 255     4,000m\r\n";
   EXPECT_EQ(folder.Read(kFile), expected);
 
   // A black band is left out.
