@@ -159,5 +159,35 @@ TEST_F(LineWriterTest, PutsFilesBackWhenTheSystemStopsAWrite) {
   EXPECT_EQ(Content(), (Files{{"append", old}, {"rewrite", old}, {"replace", old}}));
 }
 
+// The superuser may write anywhere, so the writing is done by a process of a user who may not.
+TEST_F(LineWriterTest, AFolderAndFilesThatMayOnlyBeReadStayAsTheyAre) {
+  const Files before{{"append", "old\r\n"}, {"rewrite", "old\r\n"}, {"replace", "old\r\n"}};
+  Fill(before);
+  const auto may_read = std::filesystem::perms::owner_read | std::filesystem::perms::group_read |
+                        std::filesystem::perms::others_read;
+  const auto may_enter = std::filesystem::perms::owner_exec | std::filesystem::perms::group_exec |
+                         std::filesystem::perms::others_exec;
+  for (const auto& [name, bytes] : before) permissions(folder_.Path() / name, may_read);
+  permissions(folder_.Path(), may_read | may_enter);
+
+  const pid_t child = fork();
+  ASSERT_NE(child, -1);
+  if (child == 0) {
+    constexpr uid_t kNobody = 65534;
+    if (geteuid() == 0 && setuid(kNobody) != 0) _exit(1);
+    const bool any = AppendLine(PathOf("append").c_str(), "new", IfMissing::kFail) ||
+                     AppendLine(PathOf("missing").c_str(), "new", IfMissing::kCreate) ||
+                     RewriteInPlace(PathOf("rewrite").c_str(), "new") ||
+                     CreateFile(PathOf("create").c_str(), "new") ||
+                     ReplaceThroughNewFile(PathOf("replace").c_str(), PathOf("new").c_str(), "new");
+    _exit(any ? 2 : LineReader(PathOf("append").c_str(), 99).IsOpen() ? 0 : 3);
+  }
+  int status = 0;
+  ASSERT_EQ(waitpid(child, &status, 0), child);
+  EXPECT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) == 0) << status;
+  permissions(folder_.Path(), std::filesystem::perms::owner_all);
+  EXPECT_EQ(Content(), before);
+}
+
 }  // namespace
 }  // namespace orreryui
