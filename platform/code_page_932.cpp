@@ -180,15 +180,13 @@ Folded FoldLineEnds(std::u32string_view text) {
 }
 
 std::size_t CommonStart(std::u32string_view a, std::u32string_view b) {
-  const std::size_t most = std::min(a.size(), b.size());
-  return static_cast<std::size_t>(std::mismatch(a.begin(), a.begin() + most, b.begin()).first -
-                                  a.begin());
+  const auto differs = std::mismatch(a.begin(), a.end(), b.begin(), b.end()).first;
+  return static_cast<std::size_t>(differs - a.begin());
 }
 
 std::size_t CommonEnd(std::u32string_view a, std::u32string_view b) {
-  const std::size_t most = std::min(a.size(), b.size());
-  return static_cast<std::size_t>(std::mismatch(a.rbegin(), a.rbegin() + most, b.rbegin()).first -
-                                  a.rbegin());
+  const auto differs = std::mismatch(a.rbegin(), a.rend(), b.rbegin(), b.rend()).first;
+  return static_cast<std::size_t>(differs - a.rbegin());
 }
 
 }  // namespace
