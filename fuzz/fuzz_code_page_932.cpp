@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <cstdlib>
+#include <string>
 #include <string_view>
 
 #include "platform/code_page_932.h"
@@ -29,10 +30,30 @@ void CheckText(std::string_view text) {
   Require(second.bytes == first.bytes && second.refused.empty());
 }
 
-// What an edit leaves in the box is what the user sees there, but for the refused characters.
-void CheckEdit(std::string_view old_bytes, std::string_view new_text) {
+// Line feeds in the place of all line ends.
+std::string WithLineFeeds(const std::string& bytes) {
+  std::string result;
+  for (std::size_t i = 0; i < bytes.size(); ++i) {
+    if (bytes[i] == '\r' && i + 1 < bytes.size() && bytes[i + 1] == '\n') continue;
+    result += bytes[i] == '\r' ? '\n' : bytes[i];
+  }
+  return result;
+}
+
+// CR LF in the place of all line ends, as the boxes of a front end write them.
+std::string AsFromABox(const std::string& text) {
+  std::string result;
+  for (const char byte : WithLineFeeds(text))
+    result += byte == '\n' ? "\r\n" : std::string(1, byte);
+  return result;
+}
+
+// What an edit leaves in the box is what the user sees there, but for the refused characters and
+// the way in which line ends are written.
+void CheckEdit(std::string_view old_bytes, std::string_view typed) {
+  const std::string new_text = AsFromABox(std::string(typed));
   const Encoded merged = orreryui::MergeEdit(old_bytes, new_text);
-  const std::string shown = orreryui::ToUtf8(merged.bytes);
+  const std::string shown = AsFromABox(orreryui::ToUtf8(merged.bytes));
   Require(orreryui::FromUtf8(shown).bytes == orreryui::FromUtf8(new_text).bytes);
 }
 

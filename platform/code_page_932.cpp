@@ -179,6 +179,16 @@ Folded FoldLineEnds(std::u32string_view text) {
   return folded;
 }
 
+// The same with CR LF for each line end.
+std::u32string UnfoldLineEnds(std::u32string_view folded) {
+  std::u32string text;
+  for (const char32_t character : folded) {
+    if (character == U'\n') text += U'\r';
+    text += character;
+  }
+  return text;
+}
+
 std::size_t CommonStart(std::u32string_view a, std::u32string_view b) {
   const auto differs = std::mismatch(a.begin(), a.end(), b.begin(), b.end()).first;
   return static_cast<std::size_t>(differs - a.begin());
@@ -245,9 +255,8 @@ Encoded MergeEdit(std::string_view old_bytes, std::string_view new_text) {
   const auto old_start = [&](std::size_t i) { return decoded.starts[old_line.places[i]]; };
   const std::size_t head_end = old_start(head);
   Encoded result{std::string(old_bytes.substr(0, head_end)), ""};
-  const std::size_t begin = new_line.places[head];
-  const std::size_t end = new_line.places[new_size - tail];
-  Encoded rest = Encode(std::u32string_view(text).substr(begin, end - begin));
+  Encoded rest = Encode(UnfoldLineEnds(
+      std::u32string_view(new_line.characters).substr(head, new_size - tail - head)));
   rest.bytes += old_bytes.substr(old_start(old_size - tail));
   const bool ends_in_lone_lead =
       head > 0 && head_end - old_start(head - 1) == 1 && IsLeadByte(result.bytes.back());
@@ -255,6 +264,8 @@ Encoded MergeEdit(std::string_view old_bytes, std::string_view new_text) {
     result.bytes.pop_back();
     AppendUtf8(result.refused, kReplacementCharacter);
   }
+  // Two line ends that meet now must not become one.
+  if (result.bytes.ends_with('\r') && rest.bytes.starts_with('\n')) result.bytes += '\n';
   result.bytes += rest.bytes;
   result.refused += rest.refused;
   return result;

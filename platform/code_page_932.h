@@ -31,8 +31,8 @@ Encoded FromUtf8(std::string_view text);
 // The bytes for an edit box that held `old_bytes` and now reads `new_text`. What both have in
 // common at the start and at the end keeps its old bytes, so that bytes which make no character
 // and codes which are only read survive; what lies between is encoded as FromUtf8 does. Line ends
-// are alike however they are written, since a box may know one kind only. A lead
-// byte alone that would swallow what follows it now is left out and listed as refused.
+// are alike however they are written, since a box may know one kind only; new ones are CR LF. A
+// lead byte alone that would swallow what follows it now is left out and listed as refused.
 Encoded MergeEdit(std::string_view old_bytes, std::string_view new_text);
 
 }  // namespace orreryui

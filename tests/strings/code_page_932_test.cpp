@@ -257,6 +257,7 @@ TEST(MergeEdit, LinesThatStayKeepTheLineEndsThatTheyHave) {
   EXPECT_EQ(MergeEdit("a\nb\nc", "a\r\nbx\r\nc").bytes, "a\nbx\nc");
   EXPECT_EQ(MergeEdit("a\nb", "a\r\n\r\nb").bytes, "a\n\r\nb");
   EXPECT_EQ(MergeEdit("a\nb", "ab").bytes, "ab");
+  EXPECT_EQ(MergeEdit("\rx\n", "\r\n\r\n").bytes, "\r\n\n");
 }
 
 }  // namespace
