@@ -34,7 +34,8 @@ void SelectRow(QAbstractItemView* view, int row) {
   }
   selection->setCurrentIndex(index,
                              QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
-  view->scrollTo(index);
+  // A list that comes to the screen scrolls to its current row by itself.
+  if (view->isVisible()) view->scrollTo(index);
 }
 
 ListBoxBinder::ListBoxBinder(const BinderPlace& place)
