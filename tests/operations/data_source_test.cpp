@@ -5,6 +5,7 @@
 #include "platform/code_page_932.h"
 #include "platform/front_end_loader.h"
 #include "platform/japanese_literal.h"
+#include "tests/files/faulty_file_system.h"
 #include "tests/operations/test_folder.h"
 
 namespace orreryui {
@@ -129,6 +130,51 @@ TEST_F(DataSourceTest, TheNinetyNinthNameStillFits) {
   script.Click(1);
   EXPECT_EQ(Call(0, "off"), "99|off|name99");
   EXPECT_EQ(folder.Read(kList), Lines(1, 99));
+}
+
+std::string TextOf(const DialogSession& session, int id) {
+  for (int index = 0; index < session.ControlCount(); ++index) {
+    if (session.Control(index).id == id) return session.Control(index).text;
+  }
+  return "no such control";
+}
+
+// Clicks once while the n-th call of the file system fails, for each n until none is left to fail.
+// The file then holds what it held, with the dialog as it was, or what the click makes of it.
+void ClickOnAFailingDisk(int id, const std::string& after) {
+  const std::string before = Lines(1, 2);
+  int failing_call = 0;
+  for (bool failed = true; failed;) {
+    ++failing_call;
+    TestFolder folder;
+    folder.Write(kList, before);
+    ScriptFrontEnd script;
+    script.OpensDialog(134).Type(101, "name3").Does([&](DialogSession& session) {
+      FaultyFileSystem files(failing_call);
+      const ScopedFileSystem scope(files);
+      session.Click(id);
+      failed = files.calls() >= failing_call;
+      return "";
+    });
+    script.Does([&](DialogSession& session) {
+      if (folder.Read(kList) == after) return "";
+      if (folder.Read(kList) != before) return "the file is neither as it was nor as it should be";
+      const bool as_it_was = TextOf(session, 101) == "name3" && TextOf(session, 135) == "name1";
+      return as_it_was ? "" : "the dialog shows what didn't happen";
+    });
+    script.Escape();
+    ScopedFrontEnd scope(&script);
+    OnDataSourceSet(1, "off", folder.Argument());
+    EXPECT_EQ(script.Failures(), "") << "call " << failing_call;
+  }
+  EXPECT_GT(failing_call, 4) << "no call was failed";
+}
+
+TEST_F(DataSourceTest, AWriteThatFailsIsARefusedClick) {
+  script.Escape();
+  Call(0, "off");
+  ClickOnAFailingDisk(103, Lines(1, 3));
+  ClickOnAFailingDisk(109, Lines(2, 2));
 }
 
 TEST_F(DataSourceTest, AFolderThatIsMissingOrALackingSeparatorReadsAsNoList) {
