@@ -33,7 +33,7 @@ class DataSource : public testing::Test {
     return ToUtf8(OnDataSourceSet(selected, common_area, folder_.Argument()));
   }
 
-  std::string List() const { return ToUtf8(folder_.Read("BINDER.DAT").value_or("none").c_str()); }
+  std::string List() const { return folder_.Read("BINDER.DAT").value_or("none"); }
 
   static void Click(QWidget& dialog, int id) {
     QTest::mouseClick(&ControlWidget<QAbstractButton>(dialog, id), Qt::LeftButton);
@@ -73,7 +73,7 @@ TEST_F(DataSource, ANameIsRegisteredAndAnotherDeleted) {
     EXPECT_EQ(NewName(dialog), "登録されました！");
     EXPECT_EQ(Chosen(dialog), "鎌倉");
     Click(dialog, 103);
-    EXPECT_EQ(List(), ";注\r\n東京\r\n大阪\r\n鎌倉\r\n");
+    EXPECT_EQ(List(), ";注\r\n東京\r\n大阪\r\n鎌倉\r\n"_sj);
 
     PressInList(dialog, Qt::Key_Up);
     PressInList(dialog, Qt::Key_Up);
@@ -82,14 +82,14 @@ TEST_F(DataSource, ANameIsRegisteredAndAnotherDeleted) {
     EXPECT_EQ(Chosen(dialog), "HD(共通領域)");
     EXPECT_EQ(Text(dialog, 1048), "  1/  3");
     Click(dialog, 109);
-    EXPECT_EQ(List(), "大阪\r\n鎌倉\r\n");
+    EXPECT_EQ(List(), "大阪\r\n鎌倉\r\n"_sj);
 
     PressInList(dialog, Qt::Key_Down);
     PressInList(dialog, Qt::Key_Down);
     Click(dialog, 1);
   });
   EXPECT_EQ(result, "2|off|鎌倉");
-  EXPECT_EQ(List(), "大阪\r\n鎌倉\r\n");
+  EXPECT_EQ(List(), "大阪\r\n鎌倉\r\n"_sj);
 }
 
 TEST_F(DataSource, TheNoteFollowsTheCheckBoxAndNotTheSelection) {
@@ -112,7 +112,7 @@ TEST_F(DataSource, TheNoteFollowsTheCheckBoxAndNotTheSelection) {
     QTest::keyClick(&ControlWidget<QComboBox>(dialog, 135), Qt::Key_Return);
   });
   EXPECT_EQ(result, "1|on|東京");
-  EXPECT_EQ(List(), ";注\r\n東京\r\n大阪\r\n");
+  EXPECT_EQ(List(), ";注\r\n東京\r\n大阪\r\n"_sj);
 }
 
 TEST_F(DataSource, WhatWasRegisteredStaysAfterEsc) {
@@ -123,7 +123,7 @@ TEST_F(DataSource, WhatWasRegisteredStaysAfterEsc) {
                    QTest::keyClick(&ControlWidget<QPlainTextEdit>(dialog, 101), Qt::Key_Escape);
                  }),
             "");
-  EXPECT_EQ(List(), ";注\r\n東京\r\n大阪\r\n表\r\n");
+  EXPECT_EQ(List(), ";注\r\n東京\r\n大阪\r\n表\r\n"_sj);
 }
 
 }  // namespace
