@@ -22,6 +22,7 @@ HostWindow::HostWindow()
     : operations_(new QListWidget),
       purpose_(new QLabel),
       arguments_(new QFormLayout),
+      strip_(new PaletteStrip),
       raw_result_(new QLabel("Not called yet")),
       fields_(new QTableWidget(0, 3)) {
   setWindowTitle("ORRERYUI sample host");
@@ -40,6 +41,7 @@ HostWindow::HostWindow()
   auto* const right = new QVBoxLayout;
   right->addWidget(purpose_);
   right->addLayout(arguments_);
+  right->addWidget(strip_);
   right->addWidget(call, 0, Qt::AlignLeft);
   right->addWidget(raw_result_);
   right->addWidget(fields_);
@@ -93,6 +95,15 @@ void HostWindow::ShowValues(const std::vector<std::string>& values) {
   for (std::size_t i = 0; i < editors_.size(); ++i) {
     editors_[i]->setText(QString::fromStdString(values[i]));
   }
+  ShowPalette();
+}
+
+void HostWindow::ShowPalette() {
+  const auto& palette = Chosen().palette;
+  strip_->setVisible(palette.has_value());
+  if (!palette) return;
+  const auto text = [this](std::size_t argument) { return editors_[argument]->text(); };
+  strip_->Show(text(palette->folder).toStdString(), text(palette->number).toInt());
 }
 
 void HostWindow::ShowResult(const Operation& operation, const Outcome& outcome) {

@@ -1,6 +1,6 @@
 // The window of the sample host, which stands in for the map viewer: the operations on the left,
 // the arguments and the last result of the chosen one on the right. What an operation hands back is
-// passed in again at its next call.
+// passed in again at its next call. An operation that works with a palette shows it as a strip.
 #ifndef ORRERYUI_HOST_HOST_WINDOW_H_
 #define ORRERYUI_HOST_HOST_WINDOW_H_
 
@@ -15,6 +15,7 @@
 #include <vector>
 
 #include "host/operation.h"
+#include "host/palette_strip.h"
 #include "host/sample_folder.h"
 
 namespace orreryui::host {
@@ -28,6 +29,7 @@ class HostWindow : public QWidget {
   void ShowChosen();
   void CallChosen();
   void ShowValues(const std::vector<std::string>& values);
+  void ShowPalette();
   void ShowResult(const Operation& operation, const Outcome& outcome);
 
   SampleFolder data_;
@@ -38,6 +40,7 @@ class HostWindow : public QWidget {
   QListWidget* operations_;
   QLabel* purpose_;
   QFormLayout* arguments_;
+  PaletteStrip* strip_;
   QLabel* raw_result_;
   QTableWidget* fields_;
 };

@@ -32,6 +32,12 @@ struct Field {
   int factor = 0;                            // 0: the field is the argument's whole value
 };
 
+// Which arguments of an operation name a palette: its number and the folder that it lies in.
+struct PaletteArguments {
+  std::size_t number = 0;  // the index of the argument
+  std::size_t folder = 0;
+};
+
 // What became of a call. Where `error` isn't empty the operation wasn't called.
 struct Outcome {
   std::string result;  // in UTF-8; a number in decimal; empty for an operation that returns nothing
@@ -43,6 +49,7 @@ struct Operation {
   std::string purpose;
   std::vector<Argument> arguments;
   std::vector<Field> fields;
+  std::optional<PaletteArguments> palette;
   bool ends_in_number = false;  // the last field has a bar behind it, as the others have
   std::string result_unless_ok;
   bool returns_something = true;

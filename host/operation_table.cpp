@@ -33,6 +33,7 @@ Operation MapPalleteSet() {
       {"background, green", "the map's background", 5, 256},
       {"background, blue", "the map's background", 5, 65536},
   };
+  operation.palette = {0, 2};
   operation.ends_in_number = true;
   return Describe(&OnMapPalleteSet, operation);
 }
@@ -46,6 +47,7 @@ Operation LegendElevetion() {
       {"FOLDER", "folder of PLTTFILE.DAT, with its separator", PaletteFolder()},
       {"LAKE", "colour of lakes: red + 256 * green + 65536 * blue", "15775330"},
   };
+  operation.palette = {0, 1};
   return Describe(&OnLegendElevetion, operation);
 }
 
@@ -190,6 +192,7 @@ Operation MapTypeSet() {
       {"archipelago projection", "0: Sanson, 2: Albers", 1, 10},
       {"region", "the whole and the 47 prefectures, 1 for those chosen, and a tail", 6},
   };
+  operation.palette = {0, 5};
   return Describe(&OnMapTypeSet, operation);
 }
 

@@ -53,6 +53,38 @@ TEST_F(HostWindowTest, PassesInWhatTheLastCallHandedBack) {
   EXPECT_EQ(FieldValue(1), "off");
 }
 
+// The colour of the strip at a level, from its column in the middle of the level.
+QColor ColourAt(PaletteStrip& strip, int level) {
+  strip.resize(kLevels * 3, strip.height());
+  const QRect bar = strip.Bar();
+  const int column = bar.left() + (2 * level + 1) * bar.width() / (2 * kLevels);
+  return strip.grab().toImage().pixelColor(column, bar.center().y());
+}
+
+TEST_F(HostWindowTest, ShowsTheChosenPaletteOverTheElevations) {
+  auto& strip = *window_.findChild<PaletteStrip*>("palette");
+  Choose("OnRengeConfirm");
+  EXPECT_TRUE(strip.isHidden());
+
+  Choose("OnMapPalleteSet");
+  EXPECT_FALSE(strip.isHidden());
+  EXPECT_EQ(strip.accessibleName().toStdString(), "Palette 自然な起伏");
+  const auto pick = [](Hand& hand) {
+    hand.PickFromList(1029, 4);
+    hand.Click(1);
+  };
+  CallAndPlay({{177, pick}});
+  EXPECT_EQ(strip.accessibleName().toStdString(), "Palette 白黒（濃淡）");
+  const QColor sea(std::stoi(FieldValue(1)), std::stoi(FieldValue(2)), std::stoi(FieldValue(3)));
+  EXPECT_EQ(ColourAt(strip, 0), sea);
+  // Between the rows for 1,000 m and 1,500 m.
+  EXPECT_EQ(ColourAt(strip, 80), QColor(140, 140, 140));
+
+  Editor("SELECTED").setText("99");
+  CallAndPlay({{177, [](Hand& hand) { hand.Click(1); }}});
+  EXPECT_EQ(strip.accessibleName(), "No palette");
+}
+
 TEST_F(HostWindowTest, SaysWhyACallWasNotMade) {
   Choose("OnDataSourceSet");
   Editor("SELECTED").setText("first");
