@@ -4,6 +4,9 @@
 #include <QHeaderView>
 #include <QPushButton>
 #include <QVBoxLayout>
+#include <algorithm>
+#include <cstdlib>
+#include <iterator>
 
 #include "host/operation_table.h"
 
@@ -16,10 +19,22 @@ QTableWidgetItem* Cell(const std::string& text) {
   return item;
 }
 
+bool Takes(const Operation& operation, const std::string& argument) {
+  return std::any_of(operation.arguments.begin(), operation.arguments.end(),
+                     [&](const Argument& one) { return one.name == argument; });
+}
+
+bool GivesPoint(const Operation& operation, const std::string& result) {
+  const std::size_t count = FieldsOf(operation, result).size();
+  return std::any_of(operation.fields.begin(), std::next(operation.fields.begin(), count),
+                     [](const Field& field) { return field.next_argument == "PLACE"; });
+}
+
 }  // namespace
 
 HostWindow::HostWindow()
     : operations_(new QListWidget),
+      points_(new PointList),
       purpose_(new QLabel),
       arguments_(new QFormLayout),
       strip_(new PaletteStrip),
@@ -28,7 +43,6 @@ HostWindow::HostWindow()
   setWindowTitle("ORRERYUI sample host");
   resize(900, 520);
   operations_->setObjectName("operations");
-  operations_->setMaximumWidth(240);
   raw_result_->setObjectName("result");
   raw_result_->setTextFormat(Qt::PlainText);
   fields_->setObjectName("fields");
@@ -45,15 +59,21 @@ HostWindow::HostWindow()
   right->addWidget(call, 0, Qt::AlignLeft);
   right->addWidget(raw_result_);
   right->addWidget(fields_);
+  auto* const left = new QVBoxLayout;
+  left->addWidget(operations_, 2);
+  left->addWidget(new QLabel("Registered points"));
+  left->addWidget(points_, 1);
   auto* const all = new QHBoxLayout(this);
-  all->addWidget(operations_);
-  all->addLayout(right, 1);
+  all->addLayout(left, 1);
+  all->addLayout(right, 3);
 
   for (const Operation& operation : Operations()) {
     operations_->addItem(QString::fromStdString(operation.name));
-    kept_[operation.name] = data_.StartValues(operation);
+    kept_.merge(data_.StartValues(operation));
   }
+  points_->Keep(kept_);
   connect(operations_, &QListWidget::currentRowChanged, this, &HostWindow::ShowChosen);
+  connect(points_, &QListWidget::currentRowChanged, this, &HostWindow::TakePoint);
   connect(call, &QPushButton::clicked, this, &HostWindow::CallChosen);
   operations_->setCurrentRow(0);
 }
@@ -74,36 +94,49 @@ void HostWindow::ShowChosen() {
     arguments_->addRow(QString::fromStdString(argument.meaning), editor);
     editors_.push_back(editor);
   }
-  ShowValues(kept_.at(operation.name));
+  ShowValues();
   raw_result_->setText("Not called yet");
   fields_->setRowCount(0);
 }
 
 void HostWindow::CallChosen() {
   const Operation& operation = Chosen();
-  std::vector<std::string>& values = kept_.at(operation.name);
-  for (std::size_t i = 0; i < editors_.size(); ++i) {
-    values[i] = editors_[i]->text().toStdString();
+  for (const QLineEdit* editor : editors_) {
+    kept_[editor->objectName().toStdString()] = editor->text().toStdString();
   }
-  const Outcome outcome = operation.call(values);
-  if (outcome.error.empty()) values = NextValues(operation, values, outcome.result);
-  ShowValues(values);
+  const Outcome outcome = operation.call(InOrder(operation, kept_));
+  if (outcome.error.empty()) {
+    KeepResult(operation, outcome.result, kept_);
+    if (GivesPoint(operation, outcome.result)) KeepPoint(operation);
+  }
+  ShowValues();
   ShowResult(operation, outcome);
 }
 
-void HostWindow::ShowValues(const std::vector<std::string>& values) {
-  for (std::size_t i = 0; i < editors_.size(); ++i) {
-    editors_[i]->setText(QString::fromStdString(values[i]));
+void HostWindow::TakePoint(int row) {
+  for (const auto& [name, value] : points_->Point(row)) kept_[name] = value;
+  ShowValues();
+}
+
+void HostWindow::KeepPoint(const Operation& operation) {
+  if (!Takes(operation, "NEW-ALBUM")) return points_->Keep(kept_);
+  kept_["ALBUM"] = kept_["NEW-ALBUM"];
+  points_->Keep(kept_);
+  const std::string next = std::to_string(points_->count() + 1);
+  kept_["NUMBER"] = next;
+  kept_["NEW-ALBUM"] = data_.Filled(AlbumFolder() + "album" + next + ".alb");
+}
+
+void HostWindow::ShowValues() {
+  for (QLineEdit* editor : editors_) {
+    editor->setText(QString::fromStdString(kept_.at(editor->objectName().toStdString())));
   }
   ShowPalette();
 }
 
 void HostWindow::ShowPalette() {
-  const auto& palette = Chosen().palette;
-  strip_->setVisible(palette.has_value());
-  if (!palette) return;
-  const auto text = [this](std::size_t argument) { return editors_[argument]->text(); };
-  strip_->Show(text(palette->folder).toStdString(), text(palette->number).toInt());
+  strip_->setVisible(Takes(Chosen(), "PALETTE"));
+  strip_->Show(kept_.at("PALETTE-FOLDER"), std::atoi(kept_.at("PALETTE").c_str()));
 }
 
 void HostWindow::ShowResult(const Operation& operation, const Outcome& outcome) {

@@ -1,6 +1,7 @@
 // The window of the sample host, which stands in for the map viewer: the operations on the left,
 // the arguments and the last result of the chosen one on the right. What an operation hands back is
-// passed in again at its next call. An operation that works with a palette shows it as a strip.
+// passed in at the next call of any operation that takes it. An operation that works with a palette
+// shows it as a strip. The points that were registered stand in a list; choosing one passes it in.
 #ifndef ORRERYUI_HOST_HOST_WINDOW_H_
 #define ORRERYUI_HOST_HOST_WINDOW_H_
 
@@ -10,12 +11,11 @@
 #include <QListWidget>
 #include <QTableWidget>
 #include <QWidget>
-#include <map>
-#include <string>
 #include <vector>
 
 #include "host/operation.h"
 #include "host/palette_strip.h"
+#include "host/point_list.h"
 #include "host/sample_folder.h"
 
 namespace orreryui::host {
@@ -28,16 +28,19 @@ class HostWindow : public QWidget {
   const Operation& Chosen() const;
   void ShowChosen();
   void CallChosen();
-  void ShowValues(const std::vector<std::string>& values);
+  void TakePoint(int row);
+  void KeepPoint(const Operation& operation);
+  void ShowValues();
   void ShowPalette();
   void ShowResult(const Operation& operation, const Outcome& outcome);
 
   SampleFolder data_;
-  std::map<std::string, std::vector<std::string>> kept_;  // the values of each operation, by name
-  std::vector<QLineEdit*> editors_;                       // one an argument
+  Values kept_;                      // of the arguments of all operations
+  std::vector<QLineEdit*> editors_;  // one an argument
 
   // Owned by this window, as all its widgets are.
   QListWidget* operations_;
+  PointList* points_;
   QLabel* purpose_;
   QFormLayout* arguments_;
   PaletteStrip* strip_;

@@ -4,7 +4,7 @@
 #define ORRERYUI_HOST_OPERATION_H_
 
 #include <functional>
-#include <optional>
+#include <map>
 #include <string>
 #include <utility>
 #include <vector>
@@ -22,20 +22,19 @@ struct Argument {
   std::string start;  // what a host passes at first
 };
 
+// The values of arguments by their names. Arguments with one name mean the same thing in all
+// operations, so that what one operation hands back is passed to the others as well.
+using Values = std::map<std::string, std::string>;
+
 // A field of a result. The sample host keeps the value of a field that gives an argument its next
-// value, and passes it in at the next call. Several numbers may share an argument, each with its
-// factor: the next value is then the sum of the numbers times their factors.
+// value. Several numbers may share an argument, each with its factor: the next value is then the
+// sum of the numbers times their factors.
 struct Field {
   std::string name;
   std::string meaning;
-  std::optional<std::size_t> next_argument;  // its index
-  int factor = 0;                            // 0: the field is the argument's whole value
-};
-
-// Which arguments of an operation name a palette: its number and the folder that it lies in.
-struct PaletteArguments {
-  std::size_t number = 0;  // the index of the argument
-  std::size_t folder = 0;
+  std::string next_argument =
+      {};          // the name of an argument of any operation; empty if there is none
+  int factor = 0;  // 0: the field is the argument's whole value
 };
 
 // What became of a call. Where `error` isn't empty the operation wasn't called.
@@ -49,8 +48,11 @@ struct Operation {
   std::string purpose;
   std::vector<Argument> arguments;
   std::vector<Field> fields;
-  std::optional<PaletteArguments> palette;
   bool ends_in_number = false;  // the last field has a bar behind it, as the others have
+  // Where the text behind the last bar holds several fields: their number, and what cuts it into as
+  // many texts, or none if it can't.
+  std::size_t last_fields = 1;
+  std::function<std::vector<std::string>(const std::string& text)> cut_last;
   std::string result_unless_ok;
   bool returns_something = true;
   std::vector<std::string> argument_types;  // "integer" or "text"
@@ -61,13 +63,16 @@ struct Operation {
 // One line for a person: the name and the names of the arguments.
 std::string UsageOf(const Operation& operation);
 
-// The result cut at its bars into as many texts as the operation has fields; the last one takes
-// what is left. Empty if the run didn't end in OK.
+// The texts of the fields of a result: what stands between its bars, the last one taking what is
+// left, or the texts that `cut_last` finds there. Empty if the run didn't end in OK; shorter than
+// the fields if `cut_last` gives none.
 std::vector<std::string> FieldsOf(const Operation& operation, const std::string& result);
 
-// The values to pass at the next call, after one that was made with `values` and gave `result`.
-std::vector<std::string> NextValues(const Operation& operation, std::vector<std::string> values,
-                                    const std::string& result);
+// One value an argument, as the operation is called with them. Each must be there.
+std::vector<std::string> InOrder(const Operation& operation, const Values& values);
+
+// Keeps what the result gives arguments as their next values.
+void KeepResult(const Operation& operation, const std::string& result, Values& kept);
 
 namespace internal {
 

@@ -14,26 +14,25 @@ Operation MapPalleteSet() {
   operation.name = "OnMapPalleteSet";
   operation.purpose = "Choose a palette and edit the palettes";
   operation.arguments = {
-      {"SELECTED", "number of the palette chosen so far, from 0", "0"},
+      {"PALETTE", "number of the palette chosen so far, from 0", "0"},
       {"EDITOR", "command of the text editor", "xdg-open"},
-      {"FOLDER", "folder of PLTTFILE.DAT, with its separator", PaletteFolder()},
+      {"PALETTE-FOLDER", "folder of PLTTFILE.DAT, with its separator", PaletteFolder()},
       {"SEA", "not used", "0"},
       {"LAKE", "colour of lakes: red + 256 * green + 65536 * blue", "15775330"},
       {"BACKGROUND", "colour of the map's background, in the same way", "16777215"},
   };
   operation.fields = {
-      {"selected", "number of the chosen palette", 0},
-      {"sea, red", "the sea of the palette", std::nullopt},
-      {"sea, green", "the sea of the palette", std::nullopt},
-      {"sea, blue", "the sea of the palette", std::nullopt},
-      {"lake, red", "lakes", 4, 1},
-      {"lake, green", "lakes", 4, 256},
-      {"lake, blue", "lakes", 4, 65536},
-      {"background, red", "the map's background", 5, 1},
-      {"background, green", "the map's background", 5, 256},
-      {"background, blue", "the map's background", 5, 65536},
+      {"selected", "number of the chosen palette", "PALETTE"},
+      {"sea, red", "the sea of the palette"},
+      {"sea, green", "the sea of the palette"},
+      {"sea, blue", "the sea of the palette"},
+      {"lake, red", "lakes", "LAKE", 1},
+      {"lake, green", "lakes", "LAKE", 256},
+      {"lake, blue", "lakes", "LAKE", 65536},
+      {"background, red", "the map's background", "BACKGROUND", 1},
+      {"background, green", "the map's background", "BACKGROUND", 256},
+      {"background, blue", "the map's background", "BACKGROUND", 65536},
   };
-  operation.palette = {0, 2};
   operation.ends_in_number = true;
   return Describe(&OnMapPalleteSet, operation);
 }
@@ -43,15 +42,12 @@ Operation LegendElevetion() {
   operation.name = "OnLegendElevetion";
   operation.purpose = "Show the colours of the elevations";
   operation.arguments = {
-      {"PALETTE", "number of the palette, from 0", "5"},
-      {"FOLDER", "folder of PLTTFILE.DAT, with its separator", PaletteFolder()},
+      {"PALETTE", "number of the palette, from 0", "0"},
+      {"PALETTE-FOLDER", "folder of PLTTFILE.DAT, with its separator", PaletteFolder()},
       {"LAKE", "colour of lakes: red + 256 * green + 65536 * blue", "15775330"},
   };
-  operation.palette = {0, 1};
   return Describe(&OnLegendElevetion, operation);
 }
-
-std::string AlbumFolder() { return std::string(kDataFolder) + "/album/"; }
 
 // Kamakura station.
 constexpr char kLongitude[] = "139.5503";
@@ -65,18 +61,37 @@ Operation DllAlbumRegist() {
       {"CODE", "comes back unchanged", "1"},
       {"LONGITUDE", "of the point", kLongitude},
       {"LATITUDE", "of the point", kLatitude},
-      {"ALBUM", "path of the album file that is made", AlbumFolder() + "new.alb"},
+      {"NEW-ALBUM", "path of the album file that is made", AlbumFolder() + "album2.alb"},
       {"NUMBER", "number of the album, to be shown", "2"},
   };
   operation.fields = {
-      {"code", "as it was passed in", 0},
-      {"longitude", "of the point", 1},
-      {"latitude", "of the point", 2},
-      {"place", "name of the point", std::nullopt},
-      {"item", "what the point is", std::nullopt},
+      {"code", "as it was passed in", "CODE"},  {"longitude", "of the point", "LONGITUDE"},
+      {"latitude", "of the point", "LATITUDE"}, {"place", "name of the point", "PLACE"},
+      {"item", "what the point is", "ITEM"},
   };
   operation.result_unless_ok = "4||||";
   return Describe(&OnDLLAlbumRegist, operation);
+}
+
+bool IsCoordinate(const std::string& word) {
+  return !word.empty() && word.find_first_not_of("0123456789.") == std::string::npos;
+}
+
+// Place, latitude, longitude and item, a blank behind each. A place and an item may hold blanks
+// themselves: the first two neighbouring numbers tell them apart.
+std::vector<std::string> CutPoint(const std::string& text) {
+  for (std::size_t blank = text.find(' '); blank != std::string::npos;
+       blank = text.find(' ', blank + 1)) {
+    const std::size_t second = text.find(' ', blank + 1);
+    const std::size_t third = second == std::string::npos ? second : text.find(' ', second + 1);
+    if (third == std::string::npos || !text.ends_with(' ') || third + 1 == text.size()) return {};
+    const std::string latitude = text.substr(blank + 1, second - blank - 1);
+    const std::string longitude = text.substr(second + 1, third - second - 1);
+    if (!IsCoordinate(latitude) || !IsCoordinate(longitude)) continue;
+    const std::string item = text.substr(third + 1, text.size() - third - 2);
+    return {text.substr(0, blank), latitude, longitude, item};
+  }
+  return {};
 }
 
 Operation AlbumUpdate() {
@@ -94,10 +109,15 @@ Operation AlbumUpdate() {
       {"EDITOR", "command of the text editor", "xdg-open"},
   };
   operation.fields = {
-      {"code", "as it was passed in, or 0", std::nullopt},
-      {"end", "1: store the point, 2: go on, 3: delete the album", std::nullopt},
-      {"point", "place, latitude, longitude and item, a blank behind each", std::nullopt},
+      {"code", "as it was passed in, or 0"},
+      {"end", "1: store the point, 2: go on, 3: delete the album"},
+      {"place", "name of the point", "PLACE"},
+      {"latitude", "of the point", "LATITUDE"},
+      {"longitude", "of the point", "LONGITUDE"},
+      {"item", "what the point is", "ITEM"},
   };
+  operation.last_fields = 4;
+  operation.cut_last = &CutPoint;
   return Describe(&OnAlbumUpdate, operation);
 }
 
@@ -111,9 +131,9 @@ Operation DataSourceSet() {
       {"FOLDER", "folder of BINDER.DAT, with its separator", std::string(kDataFolder) + "/"},
   };
   operation.fields = {
-      {"selected", "index of the chosen entry", 0},
-      {"common area", "whether the common area is shown as well", 1},
-      {"data file", "the chosen entry", std::nullopt},
+      {"selected", "index of the chosen entry", "SELECTED"},
+      {"common area", "whether the common area is shown as well", "COMMON-AREA"},
+      {"data file", "the chosen entry"},
   };
   return Describe(&OnDataSourceSet, operation);
 }
@@ -154,7 +174,7 @@ Operation RangeConfirm() {
       {"EAST", "longitude of the south-east corner", "139.5581"},
       {"SOUTH", "latitude of the south-east corner", "35.2989"},
   };
-  operation.fields = {{"answer", "1: the enlarged map of the range is wanted", std::nullopt}};
+  operation.fields = {{"answer", "1: the enlarged map of the range is wanted"}};
   operation.result_unless_ok = "-1";
   return Describe(&OnRengeConfirm, operation);
 }
@@ -176,27 +196,28 @@ Operation MapTypeSet() {
       {"FILL", "10000 * projection of the map by prefecture + 1 for a tint map", "10001"},
       {"COAST", "10000 * coastline by prefecture + 100 * topographic coastline + method", "50102"},
       {"COAST-ON-TINT", "1 if a tint map has a coastline colour too", "1"},
-      {"FOLDER", "folder of PLTTFILE.DAT, with its separator", PaletteFolder()},
+      {"PALETTE-FOLDER", "folder of PLTTFILE.DAT, with its separator", PaletteFolder()},
       {"REGION", "the whole and the 47 prefectures, 1 for those chosen, and a tail", WholeRegion()},
   };
   operation.fields = {
-      {"changed", "1: the map is to be drawn anew, -1: it isn't", std::nullopt},
-      {"palette", "the palette's line in PLTTFILE.DAT, from 0", 0},
-      {"kind", "1: topographic 1:200000, 2: archipelago, 3: by prefecture", 1, 1},
-      {"tint", "0: blank map, 1: hypsometric tint map", 2, 1},
-      {"method", "index of the fill method", 3, 1},
-      {"unused", "always 0", std::nullopt},
-      {"prefecture projection", "0: Sanson, 1: equirectangular", 2, 10000},
-      {"topographic coastline", "index of the coastline colour of kind 1", 3, 100},
-      {"coastline by prefecture", "index of the coastline colour of kind 3", 3, 10000},
-      {"archipelago projection", "0: Sanson, 2: Albers", 1, 10},
-      {"region", "the whole and the 47 prefectures, 1 for those chosen, and a tail", 6},
+      {"changed", "1: the map is to be drawn anew, -1: it isn't"},
+      {"palette", "the palette's line in PLTTFILE.DAT, from 0", "PALETTE"},
+      {"kind", "1: topographic 1:200000, 2: archipelago, 3: by prefecture", "KIND", 1},
+      {"tint", "0: blank map, 1: hypsometric tint map", "FILL", 1},
+      {"method", "index of the fill method", "COAST", 1},
+      {"unused", "always 0"},
+      {"prefecture projection", "0: Sanson, 1: equirectangular", "FILL", 10000},
+      {"topographic coastline", "index of the coastline colour of kind 1", "COAST", 100},
+      {"coastline by prefecture", "index of the coastline colour of kind 3", "COAST", 10000},
+      {"archipelago projection", "0: Sanson, 2: Albers", "KIND", 10},
+      {"region", "the whole and the 47 prefectures, 1 for those chosen, and a tail", "REGION"},
   };
-  operation.palette = {0, 5};
   return Describe(&OnMapTypeSet, operation);
 }
 
 }  // namespace
+
+std::string AlbumFolder() { return std::string(kDataFolder) + "/album/"; }
 
 const std::vector<Operation>& Operations() {
   static const std::vector<Operation> operations = {

@@ -38,11 +38,14 @@ SampleFolder::SampleFolder() {
   complete_ = folder_.isValid() && CopyTree(original, QDir(folder_.path()));
 }
 
-std::vector<std::string> SampleFolder::StartValues(const Operation& operation) const {
-  std::vector<std::string> values;
+std::string SampleFolder::Filled(const std::string& text) const {
+  return QString::fromStdString(text).replace(kDataFolder, folder_.path()).toStdString();
+}
+
+Values SampleFolder::StartValues(const Operation& operation) const {
+  Values values;
   for (const Argument& argument : operation.arguments) {
-    const QString start = QString::fromStdString(argument.start);
-    values.push_back(QString(start).replace(kDataFolder, folder_.path()).toStdString());
+    values[argument.name] = Filled(argument.start);
   }
   return values;
 }

@@ -4,7 +4,6 @@
 
 #include <QTemporaryDir>
 #include <string>
-#include <vector>
 
 #include "host/operation.h"
 
@@ -19,8 +18,11 @@ class SampleFolder {
   // Whether the copy could be made.
   bool IsComplete() const { return complete_; }
 
+  // The text with the copy's folder in the place of kDataFolder.
+  std::string Filled(const std::string& text) const;
+
   // What the operation is passed at first.
-  std::vector<std::string> StartValues(const Operation& operation) const;
+  Values StartValues(const Operation& operation) const;
 
  private:
   QTemporaryDir folder_;

@@ -26,11 +26,11 @@ void PrintFields(const Operation& operation, const std::string& result) {
   }
 }
 
-bool MakeVisit(const Visit& visit, const Operation& operation,
-               const std::vector<std::string>& values, const QString& pictures) {
+bool MakeVisit(const Visit& visit, const Operation& operation, Values values,
+               const QString& pictures) {
   std::printf("%s: %s\n", operation.name.c_str(), operation.purpose.c_str());
   Visitor visitor(visit, pictures);
-  const Outcome outcome = operation.call(values);
+  const Outcome outcome = operation.call(InOrder(operation, values));
   std::printf("  result: %s\n", outcome.result.c_str());
   PrintFields(operation, outcome.result);
   for (const QString& picture : visitor.Pictures()) {

@@ -80,9 +80,46 @@ TEST_F(HostWindowTest, ShowsTheChosenPaletteOverTheElevations) {
   // Between the rows for 1,000 m and 1,500 m.
   EXPECT_EQ(ColourAt(strip, 80), QColor(140, 140, 140));
 
-  Editor("SELECTED").setText("99");
-  CallAndPlay({{177, [](Hand& hand) { hand.Click(1); }}});
+  Choose("OnLegendElevetion");
+  EXPECT_EQ(Editor("PALETTE").text(), "4");
+  EXPECT_EQ(strip.accessibleName().toStdString(), "Palette 白黒（濃淡）");
+
+  Editor("PALETTE").setText("99");
+  CallAndPlay({{158, [](Hand& hand) { hand.Click(1); }}});
   EXPECT_EQ(strip.accessibleName(), "No palette");
+}
+
+TEST_F(HostWindowTest, KeepsThePointOfEachAlbum) {
+  const auto& points = *window_.findChild<PointList*>("points");
+  Choose("OnDLLAlbumRegist");
+  const auto name_the_point = [](Hand& hand) {
+    hand.Type(101, "由比ヶ浜");
+    hand.Type(104, "海岸");
+    hand.Click(1);
+  };
+  Editor("LATITUDE").setText("35.3081");
+  CallAndPlay({{148, name_the_point}});
+  ASSERT_EQ(points.count(), 2);
+  EXPECT_EQ(points.item(1)->text().toStdString(), "由比ヶ浜, 海岸");
+  EXPECT_EQ(Editor("NUMBER").text(), "3");
+
+  Choose("OnAlbumUpdate");
+  EXPECT_EQ(Editor("PLACE").text().toStdString(), "由比ヶ浜");
+  EXPECT_EQ(Editor("LATITUDE").text(), "35.3081");
+  EXPECT_TRUE(Editor("ALBUM").text().endsWith("album2.alb"));
+  const auto rename = [](Hand& hand) {
+    hand.Type(129, "材木座");
+    hand.Click(1);
+  };
+  CallAndPlay({{147, rename}});
+  ASSERT_EQ(points.count(), 2);
+  EXPECT_EQ(points.item(1)->text().toStdString(), "材木座, 海岸");
+
+  window_.findChild<PointList*>("points")->setCurrentRow(0);
+  EXPECT_EQ(Editor("PLACE").text().toStdString(), "鎌倉駅");
+  EXPECT_TRUE(Editor("ALBUM").text().endsWith("kamakura.alb"));
+  CallAndPlay({{147, [](Hand& hand) { hand.Click(121); }}});
+  EXPECT_EQ(Editor("PLACE").text().toStdString(), "鎌倉駅");
 }
 
 TEST_F(HostWindowTest, SaysWhyACallWasNotMade) {

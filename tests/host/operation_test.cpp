@@ -11,6 +11,7 @@ namespace {
 using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
+using testing::Pair;
 
 CString Join(int number, CString text) {
   CString result;
@@ -21,7 +22,7 @@ CString Join(int number, CString text) {
 Operation Joining() {
   Operation operation;
   operation.name = "Join";
-  operation.fields = {{"number", "", 0}, {"text", "", std::nullopt}};
+  operation.fields = {{"number", "", "NUMBER"}, {"text", ""}};
   return Describe(&Join, operation);
 }
 
@@ -58,24 +59,46 @@ TEST(OperationTest, DropsTheBarBehindALastNumber) {
 }
 
 TEST(OperationTest, KeepsWhatItHandsBack) {
-  EXPECT_THAT(NextValues(Joining(), {"1", "a"}, "3|b"), ElementsAre("3", "a"));
-  EXPECT_THAT(NextValues(Joining(), {"1", "a"}, ""), ElementsAre("1", "a"));
+  Operation join = Joining();
+  Values kept = {{"NUMBER", "1"}, {"OTHER", "a"}};
+  KeepResult(join, "", kept);
+  EXPECT_THAT(kept, ElementsAre(Pair("NUMBER", "1"), Pair("OTHER", "a")));
+  KeepResult(join, "3|b", kept);
+  EXPECT_THAT(kept, ElementsAre(Pair("NUMBER", "3"), Pair("OTHER", "a")));
+  // Two numbers that share an argument.
+  join.fields = {{"tens", "", "NUMBER", 10}, {"ones", "", "NUMBER", 1}};
+  KeepResult(join, "2|-3", kept);
+  EXPECT_EQ(kept["NUMBER"], "17");
 }
 
-TEST(OperationTest, KeepsNumbersThatShareAnArgument) {
-  Operation join = Joining();
-  join.fields = {{"tens", "", 0, 10}, {"ones", "", 0, 1}};
-  EXPECT_THAT(NextValues(join, {"1", "a"}, "2|-3"), ElementsAre("17", "a"));
-  EXPECT_THAT(NextValues(join, {"1", "a"}, ""), ElementsAre("1", "a"));
+TEST(OperationTest, CutsThePointOfAnAlbumAtItsCoordinates) {
+  const Operation& update = *FindOperation("OnAlbumUpdate");
+  const auto fields = [&](const char* result) { return FieldsOf(update, result); };
+  EXPECT_THAT(fields("7|1|鎌倉駅 35.3190 139.5503 起点 "),
+              ElementsAre("7", "1", "鎌倉駅", "35.3190", "139.5503", "起点"));
+  EXPECT_THAT(fields("7|1|1 の 鳥居 35.3 139.6 3 つ ある "),
+              ElementsAre("7", "1", "1 の 鳥居", "35.3", "139.6", "3 つ ある"));
+  EXPECT_THAT(fields("0|2| 35.3 139.6  "), ElementsAre("0", "2", "", "35.3", "139.6", ""));
+  for (const char* uncut : {"7|3|", "7|1|駅 35.3 139.6", "7|1|駅 北 東 起点 ", "7|1|駅 1 "}) {
+    EXPECT_EQ(fields(uncut).size(), 2U) << uncut;
+  }
 }
 
 TEST(OperationTest, DescribesEveryArgumentOfTheOperations) {
+  Values starts;  // arguments with one name start alike
   for (const Operation& operation : Operations()) {
     EXPECT_EQ(operation.arguments.size(), operation.argument_types.size()) << operation.name;
-    for (const Field& field : operation.fields) {
-      EXPECT_LT(field.next_argument.value_or(0), operation.arguments.size()) << operation.name;
+    for (const Argument& argument : operation.arguments) {
+      const auto [known, is_new] = starts.emplace(argument.name, argument.start);
+      EXPECT_EQ(known->second, argument.start) << operation.name;
     }
     EXPECT_EQ(FindOperation(operation.name), &operation);
+  }
+  for (const Operation& operation : Operations()) {
+    for (const Field& field : operation.fields) {
+      EXPECT_TRUE(field.next_argument.empty() || starts.contains(field.next_argument))
+          << field.next_argument;
+    }
   }
   EXPECT_EQ(FindOperation("OnNothing"), nullptr);
 }

@@ -1,0 +1,28 @@
+// The registered points that the sample host keeps: for each album, its point as it last came back.
+#ifndef ORRERYUI_HOST_POINT_LIST_H_
+#define ORRERYUI_HOST_POINT_LIST_H_
+
+#include <QListWidget>
+#include <vector>
+
+#include "host/operation.h"
+
+namespace orreryui::host {
+
+class PointList : public QListWidget {
+ public:
+  PointList();
+
+  // Keeps the point among `values`, in the place of an earlier one of the same album.
+  void Keep(const Values& values);
+
+  // The values that make up the point in a row.
+  const Values& Point(int row) const { return points_.at(static_cast<std::size_t>(row)); }
+
+ private:
+  std::vector<Values> points_;  // one a row
+};
+
+}  // namespace orreryui::host
+
+#endif  // ORRERYUI_HOST_POINT_LIST_H_
