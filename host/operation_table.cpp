@@ -59,8 +59,8 @@ Operation DllAlbumRegist() {
   operation.purpose = "Make an album of a point on the map";
   operation.arguments = {
       {"CODE", "comes back unchanged", "1"},
-      {"LONGITUDE", "of the point", kLongitude},
-      {"LATITUDE", "of the point", kLatitude},
+      {"LONGITUDE", "longitude of the point", kLongitude},
+      {"LATITUDE", "latitude of the point", kLatitude},
       {"NEW-ALBUM", "path of the album file that is made", AlbumFolder() + "album2.alb"},
       {"NUMBER", "number of the album, to be shown", "2"},
   };
@@ -104,8 +104,8 @@ Operation AlbumUpdate() {
       {"ALBUM", "path of the album file", AlbumFolder() + "kamakura.alb"},
       {"PLACE", "name of the point", "鎌倉駅"},
       {"ITEM", "what the point is", "散歩の起点"},
-      {"LONGITUDE", "of the point", kLongitude},
-      {"LATITUDE", "of the point", kLatitude},
+      {"LONGITUDE", "longitude of the point", kLongitude},
+      {"LATITUDE", "latitude of the point", kLatitude},
       {"EDITOR", "command of the text editor", "xdg-open"},
   };
   operation.fields = {
