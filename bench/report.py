@@ -15,6 +15,7 @@ BOUNDS = [
     (r"BM_Load_Memory", 1, "what a process that loads it needs more: 1 MB against it"),
     (r"BM_FirstPaint_", 0.8, "call to first paint, against a bare dialog with the same widgets"),
     (r"BM_Read.*/100000\b", 2, "reading 100,000 lines, against getline into strings"),
+    (r"BM_Palette_Load", 1, "loading a palette of 256 rows, against a millisecond"),
     (r"BM_CodePage932_", 1, "code page 932, against the C library's converter"),
     (r"BM_AttachedText_Read", 1.5, "reading a text of 100 MB, against getline into one string"),
     (r"BM_LongText", 1, "showing a text of 100 MB: three times its size against the memory used"),
