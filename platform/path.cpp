@@ -91,14 +91,10 @@ std::string Below(const std::string& folder, const std::string& name) {
 
 bool Exists(const std::string& path) { return CurrentFileSystem().Stat(path).has_value(); }
 
-}  // namespace
-
-std::string NativePath(std::string_view path) {
-  if (HasDrive(path)) path.remove_prefix(2);
-  std::string native(!path.empty() && IsSeparator(path[0]) ? 1 : 0, '/');
+// Goes down from folder to folder, as far as there are any.
+std::string FindBelow(std::string native, const std::vector<Name>& names) {
   bool found = true;
-  for (const std::string_view bytes : SplitNames(path)) {
-    const Name name(bytes);
+  for (const Name& name : names) {
     std::string next = Below(native, name.Spelled());
     if (found && !Exists(next)) {
       const bool is_raw = Exists(Below(native, name.Raw()));
@@ -109,6 +105,19 @@ std::string NativePath(std::string_view path) {
     native = std::move(next);
   }
   return native;
+}
+
+}  // namespace
+
+std::string NativePath(std::string_view path) {
+  if (HasDrive(path)) path.remove_prefix(2);
+  const std::string root(!path.empty() && IsSeparator(path[0]) ? 1 : 0, '/');
+  std::vector<Name> names;
+  std::string spelled = root;
+  for (const std::string_view bytes : SplitNames(path)) {
+    spelled = Below(spelled, names.emplace_back(bytes).Spelled());
+  }
+  return Exists(spelled) ? spelled : FindBelow(root, names);
 }
 
 std::optional<std::string> PathFromNative(std::string_view native) {
