@@ -66,19 +66,20 @@ LineReader::LineReader(const char* path, std::size_t limit)
     : file_(CurrentFileSystem().Open(NativePath(path), OpenMode::kRead)),
       longest_(limit - 1),
       // Room for a whole line with its CR LF, wherever it begins.
-      block_(file_ ? std::max(kBlockSize, longest_ + 2) : 0, '\0') {}
+      block_size_(file_ ? std::max(kBlockSize, longest_ + 2) : 0),
+      block_(std::make_unique_for_overwrite<char[]>(block_size_)) {}
 
 // Moves the unread bytes to the front and reads what fits behind them. False if nothing came.
 bool LineReader::Fill() {
   if (!file_ || at_end_) return false;
-  std::memmove(block_.data(), block_.data() + begin_, end_ - begin_);
+  std::memmove(block_.get(), block_.get() + begin_, end_ - begin_);
   end_ -= begin_;
   begin_ = 0;
-  const auto count = file_->Read(block_.data() + end_, block_.size() - end_);
+  const auto count = file_->Read(block_.get() + end_, block_size_ - end_);
   failed_ = count < 0;
   at_end_ = count <= 0;
   if (!at_end_) end_ += static_cast<std::size_t>(count);
-  holds_nul_ = std::memchr(block_.data(), '\0', end_) != nullptr;
+  holds_nul_ = std::memchr(block_.get(), '\0', end_) != nullptr;
   return !at_end_;
 }
 
@@ -87,14 +88,14 @@ const char* LineReader::FindLineFeed() {
   const std::size_t window = longest_ + 2;  // a whole line with its CR LF
   for (;;) {
     const std::size_t size = std::min(end_ - begin_, window);
-    const void* const found = std::memchr(block_.data() + begin_, '\n', size);
+    const void* const found = std::memchr(block_.get() + begin_, '\n', size);
     if (found || size == window || !Fill()) return static_cast<const char*>(found);
   }
 }
 
 bool LineReader::ReadLine(std::string_view& line) {
   const char* const line_feed = FindLineFeed();
-  const char* const begin = block_.data() + begin_;
+  const char* const begin = block_.get() + begin_;
   std::size_t length = line_feed ? static_cast<std::size_t>(line_feed - begin) : end_ - begin_;
   std::size_t taken = length + (line_feed ? 1 : 0);
   if (taken == 0) {
@@ -120,7 +121,7 @@ bool LineReader::ReadLine(CString& line) {
 std::string LineReader::ReadRest() {
   std::string rest;
   do {
-    rest.append(block_, begin_, end_ - begin_);
+    rest.append(block_.get() + begin_, end_ - begin_);
     begin_ = end_;
   } while (Fill());
   empty_line_due_ = false;

@@ -60,7 +60,8 @@ class LineReader {
 
   std::unique_ptr<File> file_;
   std::size_t longest_;  // bytes that a line may have
-  std::string block_;
+  std::size_t block_size_;
+  std::unique_ptr<char[]> block_;
   std::size_t begin_ = 0;  // the bytes of block_ from begin_ to end_ are unread
   std::size_t end_ = 0;
   bool holds_nul_ = false;  // there is a NUL in block_
