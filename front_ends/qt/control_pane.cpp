@@ -135,10 +135,17 @@ void ControlPane::ShowControl(int index) {
 }
 
 void ControlPane::Refresh(const std::vector<int>& indices) {
+  bool need_other_room = false;
   for (int index : indices) {
-    if (index >= 0 && index < int(binders_.size())) ShowControl(index);
+    if (index < 0 || index >= int(binders_.size())) continue;
+    ShowControl(index);
+    need_other_room = need_other_room || session_.Control(index).kind != ControlKind::kSwatch;
   }
-  frame_.ContentsChanged();
+  if (need_other_room) {
+    frame_.ContentsChanged();
+  } else {
+    frame_.FocusChanged();
+  }
 }
 
 void ControlPane::RefreshLayout() { frame_.FocusChanged(); }
