@@ -61,7 +61,8 @@ void CDlgPalette::OnInitDialog() {
 
 void CDlgPalette::ListPalettes() {
   ResetContent(kNames);
-  m_aPalettes = ReadPaletteList(m_strDir);
+  const PaletteList read = ReadPaletteList(m_strDir);
+  if (read.complete || m_aPalettes.entries.empty()) m_aPalettes = read;
   for (const PaletteEntry& palette : m_aPalettes.entries) AddString(kNames, palette.name);
 }
 

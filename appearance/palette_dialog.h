@@ -72,6 +72,7 @@ class CDlgPalette : public DialogWithMessages<CDlgPalette> {
   bool AskForName(CString& name);
   bool HasName(const CString& name) const;
 
+  // Reads the list again; where it reads in part only, the one that is known counts.
   void ListPalettes();
   void AddNewEntry();
   void ClearCheck();

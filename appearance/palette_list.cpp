@@ -125,7 +125,7 @@ PaletteList ReadPaletteList(const CString& folder) {
   }
   const auto rest = BytesBehind(folder, list.entries.size());
   list.rest = rest.value_or("");
-  list.complete = !reader.IsOpen() || (rest && !reader.Failed());
+  list.complete = reader.IsOpen() == rest.has_value() && !reader.Failed();
   return list;
 }
 
@@ -155,7 +155,7 @@ bool AddPaletteEntry(const CString& folder, const PaletteList& list, const Palet
   return RewriteInPlace(path, TextOf(list.entries) + TextOf({entry}) + list.rest);
 }
 
-bool RemovePaletteEntry(const CString& folder, const PaletteList& list, std::size_t number) {
+bool RemovePaletteEntry(const CString& folder, PaletteList& list, std::size_t number) {
   const CString path = ListPath(folder);
   const auto old_text = BytesBehind(folder, 0);
   if (!list.complete || !old_text) return false;
@@ -176,6 +176,7 @@ bool RemovePaletteEntry(const CString& folder, const PaletteList& list, std::siz
     return false;
   }
   renames.Keep();
+  list = kept;
   return true;
 }
 

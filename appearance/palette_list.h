@@ -48,11 +48,12 @@ CString NewPaletteFile(const CString& folder, const PaletteList& list);
 // Adds an entry behind those of `list`, which was read from the folder. The file must exist.
 bool AddPaletteEntry(const CString& folder, const PaletteList& list, const PaletteEntry& entry);
 
-// Removes the entry `number` of `list`, which was read from the folder, and its palette file. The
-// files behind it are renamed, so that each palette that was named by its place still is. Other
-// files keep their names: one that another entry names as well is neither removed nor renamed, and
-// no file takes a name that is in use. If any step fails, the steps before it are taken back.
-bool RemovePaletteEntry(const CString& folder, const PaletteList& list, std::size_t number);
+// Removes the entry `number` of `list`, which was read from the folder, and its palette file;
+// `list` is then what is left. The files behind the entry are renamed, so that each palette that
+// was named by its place still is. Other files keep their names: one that another entry names as
+// well is neither removed nor renamed, and no file takes a name that is in use. If any step fails,
+// the steps before it are taken back, and `list` stays as it was.
+bool RemovePaletteEntry(const CString& folder, PaletteList& list, std::size_t number);
 
 }  // namespace orreryui
 

@@ -89,6 +89,7 @@ void CDlgPalette::RegisterPalette() {
     RemoveFile(path);
     return;
   }
+  m_aPalettes.entries.push_back(palette);
   ListPalettes();
   m_strChange = "PaletteChange_F";
 }

@@ -39,7 +39,8 @@ class PaletteListTest : public testing::Test {
     return files;
   }
   bool Remove(std::size_t number) const {
-    return RemovePaletteEntry(folder.Argument(), ReadPaletteList(folder.Argument()), number);
+    PaletteList list = ReadPaletteList(folder.Argument());
+    return RemovePaletteEntry(folder.Argument(), list, number);
   }
   std::string Names() const {
     std::string text;
@@ -209,7 +210,7 @@ TEST_F(PaletteListTest, ARemovalIsTakenBackIfAnyStepFails) {
   bool failed = true;
   for (int failing = 1; failed; ++failing) {
     Lay(before);
-    const PaletteList list = ReadPaletteList(folder.Argument());
+    PaletteList list = ReadPaletteList(folder.Argument());
     FaultyFileSystem files(failing);
     bool removed = false;
     {
@@ -217,6 +218,8 @@ TEST_F(PaletteListTest, ARemovalIsTakenBackIfAnyStepFails) {
       removed = RemovePaletteEntry(folder.Argument(), list, 0);
     }
     EXPECT_EQ(Found(), removed ? after : before) << "call " << failing;
+    EXPECT_EQ(list.entries.size(), removed ? 2u : 3u) << "call " << failing;
+    EXPECT_EQ(list.entries[1].file, "Orbis2.plt") << "call " << failing;
     refusals += removed ? 0 : 1;
     failed = files.calls() >= failing;
   }
@@ -236,6 +239,7 @@ TEST_F(PaletteListTest, AListThatReadsInPartIsNotRewritten) {
       list = ReadPaletteList(folder.Argument());
     }
     failed = files.calls() >= failing;
+    EXPECT_EQ(list.complete, !failed) << "call " << failing;
     if (list.complete) continue;
     ++incomplete;
     EXPECT_FALSE(AddPaletteEntry(folder.Argument(), list, {"n", "f"}));

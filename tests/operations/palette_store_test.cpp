@@ -2,6 +2,8 @@
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 
+#include <functional>
+
 #include "platform/japanese_literal.h"
 #include "tests/files/faulty_file_system.h"
 #include "tests/operations/palette_fixture.h"
@@ -137,45 +139,102 @@ TEST_F(PaletteTest, ADeletionMakesRoomForTheNewEntry) {
   }
 }
 
-TEST_F(PaletteTest, WhatTheDiskRefusesHasNoEffect) {
-  int refusals = 0;
-  bool failed = true;
-  for (int failing = 1; failed; ++failing) {
-    folder.Write(kList, List(2));
-    std::filesystem::remove(folder.Path() / "Orbis3.plt");
-    FaultyFileSystem files(failing);
-    std::optional<ScopedFileSystem> disk;
-    std::string text;
-    ScriptFrontEnd visit;
-    visit.OpensDialog(177).Type(kNames, "x").Does([&](DialogSession&) {
-      disk.emplace(files);
-      return std::string();
-    });
-    visit.Click(kEdit).ShowsMessage(kAskRegister, kOk).Does([&](DialogSession& session) {
-      disk.reset();
-      for (int i = 0; i < session.ControlCount(); ++i) {
-        if (session.Control(i).id == kNames) text = session.Control(i).text;
-      }
-      return std::string();
-    });
-    visit.Escape();
-    ScopedFrontEnd scope(&visit);
-    OnMapPalleteSet(2, "", folder.Argument(), 0, 0, 0);
-    EXPECT_EQ(visit.Failures(), "");
-    const bool registered = folder.Read("Orbis3.plt").has_value();
-    EXPECT_EQ(folder.Read(kList), registered ? List(2) + "x$Orbis3.plt\r\n" : List(2)) << failing;
-    EXPECT_EQ(text, registered ? "" : "x") << failing;
-    refusals += registered ? 0 : 1;
-    failed = files.calls() >= failing;
+// All that a click may change: the files, and the list as the user sees it.
+struct Scene {
+  std::map<std::string, std::string> files;
+  std::vector<std::vector<std::string>> rows;
+  std::string name;
+  int row = -1;
+
+  bool operator==(const Scene&) const = default;
+};
+
+class FailingDiskTest : public PaletteTest {
+ protected:
+  Scene Look(const DialogSession& session) const {
+    Scene scene;
+    for (const auto& entry : std::filesystem::directory_iterator(folder.Path())) {
+      const std::string name = entry.path().filename().string();
+      scene.files[name] = folder.Read(name).value_or("");
+    }
+    for (int i = 0; i < session.ControlCount(); ++i) {
+      const ControlView view = session.Control(i);
+      if (view.id != kNames) continue;
+      scene.rows = view.rows;
+      scene.name = view.text;
+      scene.row = view.selection;
+    }
+    return scene;
   }
-  EXPECT_GT(refusals, 5);
+
+  // The folder as each test finds it.
+  void Lay() const {
+    for (const auto& entry : std::filesystem::directory_iterator(folder.Path())) {
+      std::filesystem::remove(entry.path());
+    }
+    folder.Write(kList, List(2));
+    folder.Write("Orbis1.plt", Text(kNatural));
+    folder.Write("Orbis2.plt", Text(kWinter));
+  }
+
+  // Plays `before`, then clicks while the n-th call of the file system fails, for each n until none
+  // is left to fail. Each time the click has no effect at all, or the whole of it.
+  void ClickOnAFailingDisk(int selected, const std::function<void(ScriptFrontEnd&)>& before, int id,
+                           const char* question) {
+    Scene whole;  // of the first run, in which no call fails
+    int refusals = 0;
+    bool failed = true;
+    for (int failing = 0; failing == 0 || failed; ++failing) {
+      Lay();
+      FaultyFileSystem files(failing);
+      std::optional<ScopedFileSystem> disk;
+      Scene old;
+      ScriptFrontEnd visit;
+      before(visit.OpensDialog(177));
+      visit.Does([&](DialogSession& session) {
+        old = Look(session);
+        disk.emplace(files);
+        return "";
+      });
+      visit.Click(id).ShowsMessage(question, kOk).Does([&](DialogSession& session) {
+        disk.reset();
+        const Scene scene = Look(session);
+        if (failing == 0) {
+          whole = scene;
+          return scene == old ? "the click had no effect" : "";
+        }
+        if (scene == old) ++refusals;
+        return scene == old || scene == whole ? "" : "the click had half an effect";
+      });
+      visit.Escape();
+      ScopedFrontEnd scope(&visit);
+      OnMapPalleteSet(selected, "", folder.Argument(), 0, 0, 0);
+      EXPECT_EQ(visit.Failures(), "") << "call " << failing << " under " << question;
+      failed = files.calls() >= failing;
+    }
+    EXPECT_GT(refusals, 4) << question;
+  }
+};
+
+TEST_F(FailingDiskTest, WhatTheDiskRefusesHasNoEffect) {
+  ClickOnAFailingDisk(
+      2, [](ScriptFrontEnd& visit) { visit.Type(kNames, "x"); }, kEdit, kAskRegister);
+  ClickOnAFailingDisk(
+      0, [this](ScriptFrontEnd& visit) { visit.Click(Swatch(2)).ChoosesColour(0x040302, 9u); },
+      kEdit, kAskUpdate);
+  const auto nothing = [](ScriptFrontEnd&) {};
+  ClickOnAFailingDisk(0, nothing, kDelete, kAskDelete);
+  ClickOnAFailingDisk(1, nothing, kDelete, kAskDelete);
 }
 
 TEST_F(PaletteTest, WithNothingPendingTheEditorOpensTheFile) {
   const std::string program = (folder.Path() / "editor").string();
   folder.Write("editor", "#!/bin/sh\necho ' 100   7   7   7' > \"$1\"\n");
   chmod(program.c_str(), 0755);
-  script.Click(kEdit).Does(ShowsSwatches(kSlots, Colours(kNatural))).Pick(kNames, 0);
+  // A lake colour lies in no file, so that it leaves nothing pending.
+  script.Click(Swatch(11)).ChoosesColour(kLake, 9u).Shows(kEdit, "更新").Click(kEdit);
+  script.Click(Swatch(11)).ChoosesColour(9, kLake);
+  script.Does(ShowsSwatches(kSlots, Colours(kNatural))).Pick(kNames, 0);
   script.Does(ShowsSwatches(kSlots, Colours({{2, 0x070707}}))).Click(1);
   EXPECT_EQ(Call(0, program.c_str()), "0|0|0|0|1|2|3|4|5|6|");
   EXPECT_EQ(folder.Read("Orbis1.plt"), " 100   7   7   7\n");
