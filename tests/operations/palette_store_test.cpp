@@ -65,12 +65,16 @@ TEST_F(PaletteTest, TheNineteenthPaletteIsTheLast) {
   EXPECT_EQ(folder.Read(kList), List(18) + "nineteenth$Orbis19.plt\r\n");
 }
 
-TEST_F(PaletteTest, TwoRegistrationsGoToFilesOfTheirPlaces) {
-  script.Type(kNames, "x").Click(kEdit).ShowsMessage(kAskRegister, kOk);
-  script.Type(kNames, "y").Click(kEdit).ShowsMessage(kAskRegister, kOk);
-  script.ShowsRows(kNames, {"自然", "冬", "x", "y"}).Escape();
+TEST_F(PaletteTest, NamesThatDifferInCaseAreRegisteredSideBySide) {
+  const std::string list = "abc$Orbis1.plt\r\nａｂｃ$Orbis2.plt\r\n"_sj;
+  folder.Write(kList, list);
+  script.Type(kNames, "ABC").Click(kEdit).ShowsMessage(kAskRegister, kOk);
+  script.Type(kNames, "ＡＢＣ").Click(kEdit).ShowsMessage(kAskRegister, kOk);
+  script.Type(kNames, "ａｂｃ").Click(kEdit).ShowsMessage(kAskRegister, kOk);
+  script.ShowsMessage(kNameTaken, kOk);
+  script.ShowsRows(kNames, {"abc", "ａｂｃ", "ABC", "ＡＢＣ"}).Escape();
   Call(2);
-  EXPECT_EQ(folder.Read(kList), List(2) + "x$Orbis3.plt\r\ny$Orbis4.plt\r\n");
+  EXPECT_EQ(folder.Read(kList), list + std::string("ABC$Orbis3.plt\r\nＡＢＣ$Orbis4.plt\r\n"_sj));
 }
 
 TEST_F(PaletteTest, WithoutAListNothingIsRegistered) {
@@ -85,7 +89,9 @@ TEST_F(PaletteTest, WithoutAListNothingIsRegistered) {
 
 TEST_F(PaletteTest, AnUpdateReplacesTheFileOnceItIsConfirmed) {
   script.Click(Swatch(2)).ChoosesColour(0x040302, 0u).Click(kEdit);
-  script.ShowsMessage(kAskUpdate, kCancel).Click(kEdit).ShowsMessage(kAskUpdate, kOk).Click(1);
+  script.ShowsMessage(kAskUpdate, kCancel).Click(kEdit).ShowsMessage(kAskUpdate, kOk);
+  // What was written can be written again, and OK has nothing to ask.
+  script.Click(kEdit).ShowsMessage(kAskUpdate, kCancel).Click(1);
   EXPECT_EQ(Call(0), "0|10|10|10|1|2|3|4|5|6|");
   EXPECT_EQ(folder.Read("Orbis1.plt"), ";" + std::string("自然"_sj) + "  " +
                                            folder.Path().string() + "/Orbis1.plt  \r\n" +

@@ -1,6 +1,8 @@
 // The palette editor: what its controls do. Its work on the files is in palette_store_test.cpp.
 #include <gtest/gtest.h>
 
+#include <functional>
+
 #include "tests/operations/palette_fixture.h"
 
 namespace orreryui {
@@ -83,32 +85,75 @@ TEST_F(PaletteTest, LakesAndBackgroundGoToTheResultAndNotToTheFile) {
   EXPECT_EQ(folder.Read("Orbis1.plt"), Text(kNatural));
 }
 
-TEST_F(PaletteTest, ALakeColourDropsAChangeThatWasPending) {
-  script.Click(Swatch(2)).ChoosesColour(0x040302, 9u).Click(Swatch(11)).ChoosesColour(kLake, 1u);
-  script.Click(1);
-  EXPECT_EQ(Call(0), "0|10|10|10|1|0|0|4|5|6|");
-  EXPECT_EQ(folder.Read("Orbis1.plt"), Text(kNatural));
-}
+struct OkCase {
+  const char* what;
+  int selected;
+  std::function<void(ScriptFrontEnd&)> play;  // up to OK and the answers
+  std::string result;
+  std::map<int, std::uint32_t> natural;  // what is in "Orbis1.plt" afterwards
+  bool first_written = false;
+  bool second_written = false;
+};
 
-TEST_F(PaletteTest, ANewSeaColourIsNotInTheResult) {
-  script.Click(Swatch(1)).ChoosesColour(0x0A0A0A, 9u).Click(1);
-  script.ShowsMessage("配色を更新しますか！", kCancel);
-  EXPECT_EQ(Call(0), "0|10|10|10|1|2|3|4|5|6|");
-  EXPECT_EQ(folder.Read("Orbis1.plt"), Text(kNatural));
-}
-
-TEST_F(PaletteTest, OkAsksTwiceBeforeItUpdates) {
-  const std::tuple<MessageBoxAnswer, bool> cases[] = {{kCancel, false}, {kOk, true}};
-  for (const auto& [answer, written] : cases) {
+TEST_F(PaletteTest, OkAsksAboutTheChosenRowIfAChangeIsPending) {
+  constexpr char kAskSaveOld[] = "配色を更新しますか！";
+  constexpr char kAskSaveNew[] = "配色を登録しますか！";
+  constexpr char kAskUpdate[] = "現在選択中の配色を更新します！";
+  const auto change = [this](ScriptFrontEnd& visit, std::size_t slot) -> ScriptFrontEnd& {
+    return visit.Click(Swatch(slot)).ChoosesColour(Colours(kNatural)[slot - 1].value(), 9u);
+  };
+  auto changed = kNatural;
+  changed[2] = 9;
+  const OkCase cases[] = {
+      {"confirmed twice", 0,
+       [&](ScriptFrontEnd& visit) {
+         change(visit, 2).Click(1).ShowsMessage(kAskSaveOld, kOk).ShowsMessage(kAskUpdate, kOk);
+       },
+       "0|10|10|10|1|2|3|4|5|6|", changed, true},
+      {"given up at the second question", 0,
+       [&](ScriptFrontEnd& visit) {
+         change(visit, 2).Click(1).ShowsMessage(kAskSaveOld, kOk).ShowsMessage(kAskUpdate, kCancel);
+       },
+       "0|10|10|10|1|2|3|4|5|6|", kNatural},
+      {"a new sea, which is not in the result", 0,
+       [&](ScriptFrontEnd& visit) { change(visit, 1).Click(1).ShowsMessage(kAskSaveOld, kCancel); },
+       "0|10|10|10|1|2|3|4|5|6|", kNatural},
+      {"dropped by a lake colour", 0,
+       [&](ScriptFrontEnd& visit) { change(change(visit, 2), 11).Click(1); },
+       "0|10|10|10|9|0|0|4|5|6|", kNatural},
+      {"another palette is chosen behind the change", 0,
+       [&](ScriptFrontEnd& visit) {
+         change(visit, 2).Pick(kNames, 1).Click(1);
+         visit.ShowsMessage(kAskSaveOld, kOk).ShowsMessage(kAskUpdate, kOk);
+       },
+       "1|20|20|20|1|2|3|4|5|6|", kNatural, false, true},
+      {"the new entry is chosen behind the change, and the sea is the last palette's", 0,
+       [&](ScriptFrontEnd& visit) {
+         change(visit, 2).Pick(kNames, 2).Click(1).ShowsMessage(kAskSaveNew, kCancel);
+       },
+       "2|10|10|10|1|2|3|4|5|6|", kNatural},
+      {"a palette is chosen behind a change of the new entry", 2,
+       [&](ScriptFrontEnd& visit) {
+         visit.Click(Swatch(5)).ChoosesColour(0, 9u).Pick(kNames, 0).Click(1);
+         visit.ShowsMessage(kAskSaveOld, kOk).ShowsMessage(kAskUpdate, kOk);
+       },
+       "0|10|10|10|1|2|3|4|5|6|", kNatural, true},
+  };
+  for (const OkCase& c : cases) {
+    folder.Write("Orbis1.plt", Text(kNatural));
+    folder.Write("Orbis2.plt", Text(kWinter));
     ScriptFrontEnd visit;
-    visit.OpensDialog(177).Click(Swatch(2)).ChoosesColour(0x040302, 9u).Click(1);
-    visit.ShowsMessage("配色を更新しますか！", kOk);
-    visit.ShowsMessage("現在選択中の配色を更新します！", answer);
+    c.play(visit.OpensDialog(177));
+    visit.OpensDialog(177).Does(ShowsSwatches(kSlots, Colours(c.natural))).Pick(kNames, 1);
+    visit.Does(ShowsSwatches(kSlots, Colours(kWinter))).Escape();
     ScopedFrontEnd scope(&visit);
-    EXPECT_EQ(OnMapPalleteSet(0, "", folder.Argument(), 0, kLake, kBack),
-              "0|10|10|10|1|2|3|4|5|6|");
-    EXPECT_EQ(visit.Failures(), "");
-    EXPECT_EQ(folder.Read("Orbis1.plt") != Text(kNatural), written);
+    EXPECT_EQ(OnMapPalleteSet(c.selected, "", folder.Argument(), 0, kLake, kBack), c.result.c_str())
+        << c.what;
+    EXPECT_EQ(folder.Read("Orbis1.plt") != Text(kNatural), c.first_written) << c.what;
+    EXPECT_EQ(folder.Read("Orbis2.plt") != Text(kWinter), c.second_written) << c.what;
+    OnMapPalleteSet(0, "", folder.Argument(), 0, kLake, kBack);
+    EXPECT_EQ(visit.Failures(), "") << c.what;
+    EXPECT_EQ(folder.Read(kList), List(2)) << c.what;
   }
 }
 
