@@ -13,7 +13,7 @@ namespace {
 constexpr char kFile[] = "Orbis1.plt";
 
 struct ReadCase {
-  const char* text;
+  std::string text;
   std::vector<std::pair<int, COLORREF>> points;
 };
 
@@ -45,6 +45,8 @@ TEST_F(PaletteFileTest, ReadsRowsAtTheirColumns) {
       {"\n\r\n; 100  60 200  80\r\n", {}},
       {"1500 120 200  80       1,500m\r\n", {{100, 0x50C878}}},
       {" 100  60 200  80       100m", {{6, 0x50C83C}}},
+      {";" + std::string(97, 'c') + "\r\n", {}},
+      {";" + std::string(97, 'c') + " 100  60 200  80\r\n", {{6, 0x50C83C}}},
       {"1500x120x200x 80999", {{100, 0x50C878}}},
       {"1500 120", {{100, 0x000078}}},
       {"text txt txt txt\n\x81\x40\n", {{0, 0}, {0, 0}}},
@@ -140,6 +142,23 @@ TEST_F(PaletteFileTest, WritesEachByteAtItsPlace) {
                                     "   0   0   0   0    青（海域）  1:15\r\n"_sj +
                                     "   1   0   0   0         0m\r\n"
                                     "4000   0   0   0     4,000m\r\n");
+}
+
+TEST_F(PaletteFileTest, ALongNameLeavesTheColoursAsTheyWereWritten) {
+  RowColours written{};
+  for (std::size_t row = 0; row < written.size(); ++row) written[row] = row % 3 == 2 ? 0 : 0x123456;
+  // What a line can't hold comes as a row of its own.
+  for (const char letter : {'n', '1', '-'}) {
+    const std::string name(150, letter);
+    ASSERT_TRUE(WritePaletteFile(Path(), name.c_str(), written, PaletteWrite::kNew));
+    const LevelColours exact = ExactColours(ReadPalette(Path()));
+    const LevelColours blended = InterpolatedColours(ReadPalette(Path()));
+    for (std::size_t row = 0; row < written.size(); ++row) {
+      const auto level = static_cast<std::size_t>(LevelOf(kRowElevations[row]));
+      EXPECT_EQ(exact[level], written[row]) << letter << row;
+      EXPECT_EQ(blended[level], 0x123456u) << letter << row;
+    }
+  }
 }
 
 TEST_F(PaletteFileTest, AnUpdateNeedsTheFile) {
