@@ -157,6 +157,55 @@ TEST_F(MapTypeTest, TheArchipelagoIsOfferedBlank) {
   EXPECT_EQ(Call({}), "1|0|2|1|2|0|0|1|5|2|");
 }
 
+TEST_F(MapTypeTest, ClicksOnFillsThatAreNotOfferedLeaveTheTexts) {
+  struct Case {
+    const char* what;
+    Given given;
+    int click;
+    bool tint;            // afterwards
+    const char* palette;  // before and afterwards
+    const char* coastline;
+    std::string result;
+  };
+  const Case cases[] = {
+      {"a tint map of the archipelago",
+       {.kind = 2},
+       kTint,
+       false,
+       "冬",
+       "",
+       "1|1|2|0|2|0|0|1|5|0|"},
+      {"blank from 2", {.fill = 2}, kBlank, false, "", "紫", "1|1|1|0|2|0|0|1|5|0|"},
+      {"tint from 2", {.fill = 2}, kTint, true, "", "紫", "1|1|1|1|2|0|0|1|5|0|"},
+      {"tint from 99, by prefecture",
+       {.kind = 3, .fill = 99},
+       kTint,
+       true,
+       "",
+       "黄",
+       "1|1|3|1|2|0|1|1|5|0|"},
+      {"archipelago from 2", {.fill = 2}, kArchipelago, false, "", "", "1|1|2|0|2|0|0|1|5|0|"},
+      {"topographic from -1",
+       {.kind = 3, .fill = -1},
+       kTopographic,
+       true,
+       "",
+       "紫",
+       "1|1|1|-1|2|0|0|1|5|0|"},
+  };
+  for (const Case& c : cases) {
+    const char* const method = "段彩(高度 50m間隔)";
+    script = ScriptFrontEnd();
+    script.OpensDialog(159).Shows(kPalette, c.palette).Shows(kMethod, method);
+    ShowsTint(true);
+    script.Click(c.click).Shows(kPalette, c.palette).Shows(kMethod, method);
+    script.Shows(kCoastline, c.coastline);
+    ShowsTint(c.tint);
+    script.Click(1);
+    EXPECT_EQ(Call(c.given), c.result) << c.what;
+  }
+}
+
 TEST_F(MapTypeTest, APrefectureMapInSansonProjectionIsBlank) {
   script.ShowsSelection(kPrefProjection, 0).Shows(kCoastline, "黄").Click(kTint);
   script.ShowsSelection(kPrefProjection, 1).Shows(kPalette, "冬");
@@ -198,11 +247,18 @@ TEST_F(MapTypeTest, ARegionEndsTheWhole) {
             "1|0|3|1|2|0|1|1|5|0|" + Zeros(13) + "1|" + Zeros(34) + "1");
 }
 
-TEST_F(MapTypeTest, ARegionOfABlankMapKeepsTheProjection) {
+TEST_F(MapTypeTest, SeveralRegionsOfABlankMapComeBackWhereOneMayBeChosen) {
+  const std::string both = Zeros(13) + "1|1|" + Zeros(33) + "1";
   script.Click(kPrefectures).OpensDialog(179);
   script.ShowsTitle("  地域選択（国土数値情報データを表示する都道府県）").Click(kTokyo);
   script.Click(kKanagawa).Click(1);
-  EXPECT_EQ(Call({.fill = 0}), "1|1|3|0|2|0|0|1|5|0|" + Zeros(13) + "1|1|" + Zeros(33) + "1");
+  EXPECT_EQ(Call({.fill = 0}), "1|1|3|0|2|0|0|1|5|0|" + both);
+
+  script.OpensDialog(159).Click(kPrefectures).OpensDialog(179).ShowsTitle(" 都道府県別地図");
+  script.ShowsCheck(kTokyo, true).ShowsCheck(kKanagawa, true).Click(kKanagawa);
+  script.ShowsCheck(kTokyo, false).ShowsCheck(kKanagawa, true).Click(1);
+  EXPECT_EQ(Call({.kind = 3, .fill = 0, .region = both}),
+            "1|1|3|0|2|0|0|1|5|0|" + Zeros(14) + "1|" + Zeros(33) + "1");
 }
 
 TEST_F(MapTypeTest, TheSameRegionAgainIsNoChange) {
