@@ -110,10 +110,10 @@ struct ControlView {
 };
 
 enum class Placement {
-  kAtPosition,  // at x, y in dialog units from the corner of the owner, or of the screen
+  kAtPosition,  // at x, y in dialog units from the corner of the host's window, or of the screen
   kCentred,     // on the owner, or on the screen
   kOnPointer,   // centred on the mouse pointer
-  kAtPixel,     // at x, y in pixels of the screen
+  kAtPixel,     // at x, y on the screen, in pixels as windows are placed there
 };
 
 // The dialog itself. Its size is that of the area inside the window's frame.

@@ -122,6 +122,12 @@ void QtDialog::ShowFocus() {
   wanted->setFocus(Qt::TabFocusReason);
 }
 
+const QWindow* QtDialog::HostWindow() const {
+  const QWidget* outermost = this;
+  while (outermost->parentWidget() != nullptr) outermost = outermost->parentWidget()->window();
+  return outermost->windowHandle()->transientParent();
+}
+
 QRect QtDialog::AvailableArea() const {
   const QScreen* screen = parentWidget() != nullptr ? parentWidget()->screen() : nullptr;
   if (screen == nullptr) screen = QGuiApplication::screenAt(QCursor::pos());
@@ -131,22 +137,24 @@ QRect QtDialog::AvailableArea() const {
 
 void QtDialog::Place() {
   placed_ = session_.Layout();
-  const QRect area = AvailableArea();
-  const QWindow* const host = windowHandle()->transientParent();
-  const QRect owner = host != nullptr ? host->frameGeometry() : area;
+  QRect area = AvailableArea();
+  const auto frame = [area](const QWindow* on) { return on ? on->frameGeometry() : area; };
   QRect window(QPoint(), size());
   switch (placed_.placement) {
     case Placement::kAtPosition:
-      window.moveTopLeft(owner.topLeft() + scale_.ToPixels(placed_.x, placed_.y));
+      window.moveTopLeft(frame(HostWindow()).topLeft() + scale_.ToPixels(placed_.x, placed_.y));
       break;
     case Placement::kCentred:
-      window.moveCenter(owner.center());
+      window.moveCenter(frame(windowHandle()->transientParent()).center());
       break;
     case Placement::kOnPointer:
       window.moveCenter(QCursor::pos());
       break;
     case Placement::kAtPixel:
       window.moveTopLeft({placed_.x, placed_.y});
+      if (const QScreen* const there = QGuiApplication::screenAt(window.topLeft())) {
+        area = there->availableGeometry();
+      }
       break;
   }
   move(Inside(QRect(window.topLeft(), window.size() + kWindowFrame), area).topLeft());

@@ -102,7 +102,8 @@ ORRERYUI_EXPORT CString OnDLLAlbumRegist(int code, CString longitude, CString la
 // removed.
 //
 //   code                 a number of the host's. 0 means that changed texts aren't told apart from
-//                        others; with -1, giving up can't be told from a deletion.
+//                        others; with -1, a user who gives up, or a window that can't be shown,
+//                        can't be told from a deletion.
 //   state                "new" makes the album file, or empties it; any other word reads it
 //   album_file           full path of the album file
 //   place, item          name and item of the album's point
@@ -148,7 +149,8 @@ ORRERYUI_EXPORT void OnTextDisplayDaialog(CString file, CString title1, CString 
 //   mode  1: the memo of the file, that is its lines behind the first one that reads 999
 //         2: a preview, its first 16 lines
 //         any other number: `text`, and no file is read
-//   left  left edge of the window in pixels of the screen, 560 pixels below its upper edge. 0 and
+//   left  left edge of the window on the screen, in pixels as windows are placed there; the window
+//         then opens 560 pixels below the screen's upper edge, or higher if it wouldn't fit. 0 and
 //         less leave the window where it opens of itself.
 //   file  path of the text file, which is shown as well
 //   text  the text to show if `mode` is neither 1 nor 2

@@ -181,6 +181,31 @@ TEST(Window, WaitingTakesNoInputAndPaints) {
   });
 }
 
+TEST(Window, OpensAtItsPlaceWhereverTheDialogBelowItIs) {
+  FakeSession at_pixel, at_position;
+  at_pixel.layout.placement = Placement::kAtPixel;
+  at_pixel.layout.x = 30;
+  at_pixel.layout.y = 70;
+  at_position.layout.placement = Placement::kAtPosition;
+  at_position.layout.x = 10;
+  at_position.layout.y = 20;
+  at_position.handler = [&](const std::string& gesture) {
+    if (gesture != "click 1") return;
+    FakeSession nested;
+    nested.layout = at_position.layout;
+    RunWithUser(nested, [](QDialog& window) {
+      EXPECT_EQ(window.pos(), window.parentWidget()->window()->pos());
+    });
+  };
+  at_position.Add(ControlKind::kPushButton, 1, "開く");
+  RunWithUser(at_pixel, [](QDialog& window) { EXPECT_EQ(window.pos(), QPoint(30, 70)); });
+  RunWithUser(at_position, [](QDialog& window) {
+    EXPECT_GT(window.pos().x(), 10);
+    EXPECT_LT(window.pos().x(), window.pos().y());
+    QTest::mouseClick(&ControlWidget<QPushButton>(window, 1), Qt::LeftButton);
+  });
+}
+
 TEST(Window, StaysOnTheScreen) {
   FakeSession session;
   session.Add(ControlKind::kPushButton, 1, "OK");
