@@ -6,6 +6,7 @@
 #include "platform/code_page_932.h"
 #include "platform/front_end_loader.h"
 #include "platform/japanese_literal.h"
+#include "tests/files/faulty_file_system.h"
 #include "tests/operations/test_folder.h"
 
 namespace orreryui {
@@ -64,6 +65,8 @@ TEST_F(AlbumUpdateTest, TheEndTellsTheHostWhatToDo) {
       {7, 2, "", ""},
       {0, 2, "", ""},
       {-1, 2, "-1|3|", "-1|3|"},
+      {-1, 103, std::string("0|2|") + kPoint, std::string("0|2|") + kPoint},
+      {-1, 121, "-1|3|", "-1|3|"},
   };
   for (const auto& [code, button, untouched, changed] : cases) {
     SCOPED_TRACE(std::to_string(code) + " " + std::to_string(button));
@@ -105,22 +108,28 @@ TEST_F(AlbumUpdateTest, EnterEndsInTheOneLineBoxesAndBreaksLinesInTheOthers) {
 TEST_F(AlbumUpdateTest, ARowShowsItsFieldsAndThePreviewItsText) {
   folder.Write("t.txt", "main\r\n999\r\n");
   const std::string path = PathOf("t.txt");
+  const std::string cut = std::string(190, 'c') + "\x82";  // ends at the longest line's end
   folder.Write(kAlbum, std::string("ァー 1 2 ァ表 P.JPG "_sj) + path +
                            "\r\n;c\r\n\r\nMt 1 2 i t\r\n" +
-                           std::string("a 3 4  写真.Bmp\nm@n 3 4 i t.txt p.jpg\nlast"_sj));
+                           std::string("a 3 4  写真.Bmp\nm@n 3 4 i t.txt p.jpg\nlast\n"_sj) +
+                           "p 1 2 i " + cut + "\xA0 1 2 j f");
+  const std::string odd = ToUtf8("\xA0");
   ScriptFrontEnd script;
-  script.OpensDialog(147).ShowsRows(128, {"ァー#ァ表", "a#", "m", "#"}).Shows(131, "4件");
+  script.OpensDialog(147)
+      .ShowsRows(128, {"ァー#ァ表", "a#", "m", "#", "p#i", odd + "#j"})
+      .Shows(131, "6件");
   script.ShowsSelection(128, -1).Shows(106, "").Shows(104, "").Shows(105, "").Shows(101, "");
   script.Shows(1045, "").Click(114);
-  script.Pick(128, 0).Shows(131, "1/4").Shows(106, "ァー").Shows(104, "ァ表");
+  script.Pick(128, 0).Shows(131, "1/6").Shows(106, "ァー").Shows(104, "ァ表");
   script.Shows(105, path).Shows(101, "P.JPG").Shows(132, "35.3").Shows(1000, "139.5");
   script.Type(105, "elsewhere").Click(114).OpensDialog(133).Shows(102, path);
   script.Shows(101, "=====   =====\r\nmain\r\n999\r\n\r\n").Click(1);
-  script.Pick(128, 1).Shows(131, "2/4").Shows(106, "a").Shows(104, "").Shows(105, "");
+  script.Pick(128, 1).Shows(131, "2/6").Shows(106, "a").Shows(104, "").Shows(105, "");
   script.Shows(101, "写真.Bmp").Click(114);
-  script.Pick(128, 2).Shows(131, "3/4").Shows(106, "").Shows(104, "m");
+  script.Pick(128, 2).Shows(131, "3/6").Shows(106, "").Shows(104, "m");
   script.Shows(105, "n#i@t.txt").Shows(101, "p.jpg");
-  script.Pick(128, 3).Shows(106, "").Shows(104, "").Shows(105, "last").Shows(101, "").Click(2);
+  script.Pick(128, 3).Shows(106, "").Shows(104, "").Shows(105, "last").Shows(101, "");
+  script.Pick(128, 4).Shows(105, ToUtf8(cut)).Pick(128, 5).Shows(106, odd).Click(2);
   EXPECT_EQ(Call(script), "");
 }
 
@@ -165,11 +174,23 @@ TEST_F(AlbumUpdateTest, ANewAlbumIsEmptyFromTheStart) {
             "0|2|鎌倉 35.3 139.5 寺 社 ");
 }
 
-TEST_F(AlbumUpdateTest, AnAlbumThatCannotBeReadIsEmpty) {
+TEST_F(AlbumUpdateTest, AnAlbumThatCannotBeEmptiedKeepsItsLines) {
+  folder.Write(kAlbum, Lines(1, 2));
+  FaultyFileSystem disk(1);
+  ScopedFileSystem scope(disk);
+  ScriptFrontEnd script;
+  script.OpensDialog(147).Shows(131, "   件").ShowsRows(128, {}).Escape();
+  EXPECT_EQ(Call(script, 7, "new"), "");
+  EXPECT_EQ(folder.Read(kAlbum), Lines(1, 2));
+}
+
+TEST_F(AlbumUpdateTest, AnAlbumThatCannotBeReadIsEmptyAndCanBeEdited) {
+  const std::string editor = MakeEditor("ed", "echo > '" + PathOf("ran") + "'");
   for (const CString& album : {folder.Argument(), CString(), folder.Argument() + "none"}) {
     ScriptFrontEnd script;
     script.OpensDialog(147).Shows(131, "0件").Click(1076).Escape();
-    EXPECT_EQ(CallWith(script, 7, "old", album, "no-such-editor"), "");
+    EXPECT_EQ(CallWith(script, 7, "old", album, editor), "");
+    EXPECT_EQ(std::filesystem::remove(PathOf("ran")), !album.IsEmpty()) << album;
   }
 }
 
@@ -200,7 +221,9 @@ TEST_F(AlbumUpdateTest, NoShellReadsThePathOfTheAlbum) {
 TEST_F(AlbumUpdateTest, WithoutAWindowNothingIsTouched) {
   ScopedFrontEnd no_screen(nullptr);
   folder.Write(kAlbum, Lines(1, 2));
-  EXPECT_EQ(OnAlbumUpdate(7, "new", folder.Argument() + kAlbum, "", "", "", "", ""), "");
+  const CString album = folder.Argument() + kAlbum;
+  EXPECT_EQ(OnAlbumUpdate(7, "new", album, "", "", "", "", ""), "");
+  EXPECT_EQ(OnAlbumUpdate(-1, "new", album, "", "", "", "", ""), "-1|3|");
   EXPECT_EQ(folder.Read(kAlbum), Lines(1, 2));
 }
 

@@ -46,6 +46,8 @@ std::vector<Case> Cases() {
       {"the mark twice", "999\n999\n;b\n\nc\n999\nd", "", ";b\r\n\r\nc\r\nd\r\n",
        "999\r\n999\r\n;b\r\n\r\nc\r\n999\r\nd\r\n"},
       {"the mark at the end", "a\r\n999", "a\r\n", "", "a\r\n999\r\n"},
+      {"the mark at the end, with its line end", "a\r\n999\r\n", "a\r\n", "\r\n",
+       "a\r\n999\r\n\r\n"},
       {"almost the mark", " 999\n999 \n0999\n9990", " 999\r\n999 \r\n0999\r\n9990\r\n", "",
        " 999\r\n999 \r\n0999\r\n9990\r\n"},
       {"a comment is text", ";a\r\nM b\r\n\r\n;c", ";a\r\nM b\r\n\r\n;c\r\n", "",
@@ -169,12 +171,6 @@ TEST_F(ViewersTest, TheMemoOpensWhereTheCallerWantsIt) {
     OnMemoDisplay(0, place.left, "no\\such", "text");
     EXPECT_EQ(script.Failures(), "");
   }
-}
-
-TEST_F(ViewersTest, WithoutAWindowNothingHappens) {
-  ScopedFrontEnd scope(nullptr);
-  OnTextDisplayDaialog("a", "b", "c");
-  OnMemoDisplay(1, 0, "a", "");
 }
 
 }  // namespace
