@@ -1,6 +1,8 @@
 #!/usr/bin/env python3
 """Prints the ratios that the benchmarks left in a folder, and fails if a bound isn't kept.
 
+The second argument is found in the names of the benchmarks whose bounds count.
+
 A ratio is what the library is measured against divided by the library: 2 means twice as fast, or
 half the memory.
 """
@@ -22,12 +24,14 @@ BOUNDS = [
 ]
 
 
-def main(folder):
+def main(folder, wanted):
     results = []
     for file in sorted(pathlib.Path(folder).glob("*.json")):
         results += json.loads(file.read_text())["benchmarks"]
     kept = bool(results)
     for pattern, least, meaning in BOUNDS:
+        if not re.search(wanted, pattern):
+            continue
         print(f"{meaning} (at least {least}):")
         found = [result for result in results if re.match(pattern, result["name"])]
         for result in found:
@@ -43,4 +47,4 @@ def main(folder):
 
 
 if __name__ == "__main__":
-    sys.exit(main(sys.argv[1]))
+    sys.exit(main(sys.argv[1], sys.argv[2]))
