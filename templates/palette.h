@@ -21,7 +21,7 @@ inline constexpr const char* kNewEntry = "新規登録"_sj;
 
 inline constexpr ControlTemplate kControls[] = {
     {ControlKind::kGroupBox, kNoControlId, " 配色の名称"_sj, {10, 8, 146, 178}},
-    {ControlKind::kSimpleComboBox, kNames, "", {18, 20, 130, 140}},
+    {ControlKind::kSimpleComboBox, kNames, "", {18, 24, 130, 136}},
     {ControlKind::kPushButton, kEdit, "編集"_sj, {18, 164, 63, 16}},
     {ControlKind::kPushButton, kDelete, "削除"_sj, {85, 164, 63, 16}},
     {ControlKind::kStatic, kNoControlId, "標高 4,000m"_sj, {168, 14, 52, 8}},
