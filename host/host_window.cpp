@@ -6,7 +6,7 @@
 #include <QVBoxLayout>
 #include <algorithm>
 #include <cstdlib>
-#include <iterator>
+#include <span>
 
 #include "host/operation_table.h"
 
@@ -25,8 +25,8 @@ bool Takes(const Operation& operation, const std::string& argument) {
 }
 
 bool GivesPoint(const Operation& operation, const std::string& result) {
-  const std::size_t count = FieldsOf(operation, result).size();
-  return std::any_of(operation.fields.begin(), std::next(operation.fields.begin(), count),
+  const auto given = std::span(operation.fields).first(FieldsOf(operation, result).size());
+  return std::any_of(given.begin(), given.end(),
                      [](const Field& field) { return field.next_argument == "PLACE"; });
 }
 
