@@ -2,9 +2,9 @@
 //
 //   place latitude longitude item file-1 [file-2]
 //
-// One blank separates the fields, and the last one runs to the end of the line. Of a picture and a
-// text file the picture stands first. No field may hold a blank, #, @ or $; nobody refuses them,
-// and who reads such a line finds its fields moved. Empty lines and lines that begin with ; or M
+// One blank separates the fields, and file-2 runs to the end of the line. Of a picture and a text
+// file the picture stands first. No field may hold a blank, #, @ or $; nobody refuses them, and who
+// reads such a line finds its fields moved. Empty lines and lines that begin with ; or M
 // hold no data, and a line that reads 999 ends the album.
 //
 // Paths and texts are in code page 932. Nothing is reported to the user.

@@ -2,8 +2,8 @@
 //
 //   place#item@file-1$latitude$longitude[$file-2]
 //
-// What stands before the @ is what a list shows. Nothing is refused: in a line or a packed point
-// with too few fields those that are missing are empty, from the left, and the rest moves on.
+// What stands before the @ is what a list shows. Nothing is refused: a separator that is missing
+// leaves the field before it empty, and what is left of the text goes to the fields behind.
 #ifndef ORRERYUI_ROUTES_PACKED_POINT_H_
 #define ORRERYUI_ROUTES_PACKED_POINT_H_
 

@@ -106,6 +106,8 @@ TEST_F(AlbumFileTest, NinetyNineLinesAreRead) {
     EXPECT_EQ(lines.size(), static_cast<std::size_t>(std::min(count, 99))) << count;
     EXPECT_EQ(lines.back(), count == 98 ? "p98 1 2 i f.txt" : "p99 1 2 i f.txt");
   }
+  const auto lines = LinesOf("\r\n" + Lines(1, 50) + ";\r\n\r\nM\r\n" + Lines(51, 100));
+  EXPECT_EQ(lines.size(), 99u) << "a line without data counts for none";
 }
 
 }  // namespace

@@ -20,6 +20,8 @@ class FaultyFileSystem final : public FileSystem {
   explicit FaultyFileSystem(int failing_call = 0) : failing_call_(failing_call) {}
 
   int calls() const { return calls_; }
+  // Whether all that was written has been brought to the disk.
+  bool all_on_disk() const { return all_on_disk_; }
   std::size_t longest_read = std::numeric_limits<std::size_t>::max();
 
   std::unique_ptr<File> Open(const std::string& path, OpenMode mode) override {
@@ -46,6 +48,7 @@ class FaultyFileSystem final : public FileSystem {
       return owner_.Fails() ? -1 : file_->Read(buffer, std::min(size, owner_.longest_read));
     }
     bool Write(std::string_view bytes) override {
+      owner_.all_on_disk_ = false;
       if (!owner_.Fails()) return file_->Write(bytes);
       file_->Write(bytes.substr(0, bytes.size() / 2));
       return false;
@@ -55,7 +58,10 @@ class FaultyFileSystem final : public FileSystem {
       return owner_.Fails() ? std::nullopt : file_->Size();
     }
     bool Truncate(std::uint64_t size) override { return !owner_.Fails() && file_->Truncate(size); }
-    bool Sync() override { return !owner_.Fails() && file_->Sync(); }
+    bool Sync() override {
+      if (owner_.Fails() || !file_->Sync()) return false;
+      return owner_.all_on_disk_ = true;
+    }
 
    private:
     FaultyFileSystem& owner_;
@@ -67,6 +73,7 @@ class FaultyFileSystem final : public FileSystem {
   FileSystem& files_ = CurrentFileSystem();
   const int failing_call_;
   int calls_ = 0;
+  bool all_on_disk_ = true;
 };
 
 }  // namespace orreryui

@@ -50,6 +50,7 @@ class LineWriterTest : public testing::Test {
         changed = change();
       }
       ASSERT_EQ(Content(), changed ? after : before) << "call " << call;
+      EXPECT_TRUE(!changed || files.all_on_disk()) << "call " << call;
       if (files.calls() < call) {
         EXPECT_TRUE(changed);
         EXPECT_GT(call, 3) << "no call was failed";

@@ -26,6 +26,7 @@ TEST(PackedPointTest, LinesAreTakenApartAtTheirBlanks) {
       {"p q 1 2 i a.txt", "p#2@i$q$1$a.txt", {"p", "q", "1", "2", "i", "a.txt"}},
       {"p 1 2 i a.jpg b c.txt", "p#i@a.jpg$1$2$b c.txt", {"p", "1", "2", "i", "b c.txt", "a.jpg"}},
       {"p 1 2 i a.jpg ", "p#i@a.jpg$1$2$", {"p", "1", "2", "i", "", "a.jpg"}},
+      {"p 1 2 i  a.txt", "p#i@$1$2$a.txt", {"p", "1", "2", "i", "", "a.txt"}},
       // Too few fields.
       {"p 1 2 a.txt", "p#@a.txt$1$2", {"p", "1", "2", "", "a.txt", ""}},
       {"p", "#@p$$", {"", "", "", "", "p", ""}},
@@ -38,8 +39,9 @@ TEST(PackedPointTest, LinesAreTakenApartAtTheirBlanks) {
       {"ァー　表 1 2 ポァ ァａ.txt"_sj,
        "ァー　表#ポァ@ァａ.txt$1$2"_sj,
        {"ァー　表"_sj, "1", "2", "ポァ"_sj, "ァａ.txt"_sj, ""}},
-      // A lead byte alone takes no blank with it.
+      // A lead byte alone takes no blank with it, but an @ that follows is its second byte.
       {"p\x81 1 2 i a.txt", "p\x81#i@a.txt$1$2", {"p\x81", "1", "2", "i", "a.txt", ""}},
+      {"p 1 2 i\x81 a.txt", "p#i\x81@a.txt$1$2", {"", "1", "2", "", "p#i\x81@a.txt", ""}},
   };
   for (const auto& [line, packed, data] : cases) {
     SCOPED_TRACE(line);
