@@ -2,6 +2,7 @@
 
 #include "appearance/palette_file.h"
 #include "appearance/palette_list.h"
+#include "frame/line_file.h"
 #include "templates/legend.h"
 
 namespace orreryui {
@@ -32,9 +33,9 @@ void CDlgLegend::LoadColors() {
   const PaletteEntry palette = PaletteEntryOf(line);
   SetDlgItemText(kName, palette.name);
   m_crColor[kLakes] = m_crLake;
-  const auto points = ReadPalette(m_strDir + palette.file);
-  if (points.empty()) return;
-  const LevelColours colours = InterpolatedColours(points);
+  const CString path = m_strDir + palette.file;
+  if (!FileExists(path)) return;
+  const LevelColours colours = InterpolatedColours(ReadPalette(path));
   for (std::size_t i = 0; i < kBands; ++i) {
     m_crColor[i] = colours[static_cast<std::size_t>(LevelOf(kRowElevations[i]))];
   }

@@ -16,7 +16,7 @@ inline constexpr int kName = 1121;
 inline constexpr ControlTemplate kControls[] = {
     {ControlKind::kPushButton, IDOK, "OK", {35, 193, 50, 16}, kDefaultButton},
     {ControlKind::kStatic, kNoControlId, "配色"_sj, {12, 10, 18, 8}},
-    {ControlKind::kStatic, kName, "", {34, 10, 74, 8}},
+    {ControlKind::kStatic, kName, "", {34, 5, 74, 18}},  // room for two lines
     {ControlKind::kStatic, kNoControlId, "標高  3,000m～"_sj, {12, 30, 60, 8}},
     {ControlKind::kSwatch, kSwatches[9], "C10", {82, 28, 26, 12}},
     {ControlKind::kStatic, kNoControlId, "標高  <3,000m"_sj, {12, 44, 60, 8}},
