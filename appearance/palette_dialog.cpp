@@ -112,7 +112,7 @@ void CDlgPalette::ChangeColour(std::size_t slot, COLORREF colour) {
 void CDlgPalette::OnSelectPalette() {
   m_nSelect = GetCurSel(kNames);
   ClearCheck();
-  if (IsNewSelected()) {
+  if (IsNewSelected() && !PaletteAt(m_nSelect)) {
     UseNewColours();
   } else {
     LoadColors(m_nSelect);
@@ -139,19 +139,30 @@ void CDlgPalette::ClearCheck() {
 }
 
 void CDlgPalette::OnEdit() {
-  if (IsNewSelected()) return RegisterPalette();
-  if (m_strChange.IsEmpty()) return EditPaletteFile();
-  const PaletteEntry* const palette = PaletteAt(m_nSelect);
-  if (AfxMessageBox(kAskUpdate) != IDOK || !palette) return;
-  if (WritePalette(PathOf(m_nSelect), palette->name, "")) m_strChange = "PaletteChange_F";
+  if (IsNewSelected()) {
+    RegisterPalette();
+  } else if (m_strChange.IsEmpty()) {
+    EditPaletteFile();
+  } else {
+    UpdatePalette();
+  }
 }
 
+bool CDlgPalette::UpdatePalette() {
+  if (AfxMessageBox(kAskUpdate) != IDOK) return true;
+  const PaletteEntry* const palette = PaletteAt(m_nSelect);
+  if (!palette || !WritePalette(PathOf(m_nSelect), palette->name, "")) return false;
+  m_strChange = "PaletteChange_F";
+  return true;
+}
+
+// Colours that were to be saved and couldn't be keep the dialog open.
 void CDlgPalette::OnOK() {
   if (m_strChange == "PaletteChange_D") {
-    if (AfxMessageBox(IsNewSelected() ? kAskSaveNew : kAskSaveOld) == IDOK) {
-      OnEdit();
-    } else {
+    if (AfxMessageBox(IsNewSelected() ? kAskSaveNew : kAskSaveOld) != IDOK) {
       m_strChange.Empty();
+    } else if (!(IsNewSelected() ? RegisterPalette() : UpdatePalette())) {
+      return;
     }
   }
   CDialog::OnOK();

@@ -51,8 +51,9 @@ class CDlgPalette : public DialogWithMessages<CDlgPalette> {
   void LoadColors(int index);
   // Writes the working colours; mode "NEW" makes the file, the empty text gives it new content.
   bool WritePalette(const CString& path, const CString& name, const CString& mode);
-  // The next three ask first.
-  void RegisterPalette();
+  // Asks, then adds a palette with the working colours to the list. False: the disk refused.
+  bool RegisterPalette();
+  // Asks, then removes the chosen palette.
   void DeletePalette();
   void EditPaletteFile();
 
@@ -65,10 +66,13 @@ class CDlgPalette : public DialogWithMessages<CDlgPalette> {
   void OnToggleCheck();
   void OnEdit();
 
+  // Whether the chosen row is the new entry's, or its palette's once that has been registered.
   bool IsNewSelected() const { return m_nNewIndex >= 0 && m_nSelect == m_nNewIndex; }
   // The palette in a row, or null: the new entry has none.
   const PaletteEntry* PaletteAt(int index) const;
   CString PathOf(int index) const;
+  // Asks, then writes the working colours to the chosen palette. False: that failed.
+  bool UpdatePalette();
   bool AskForName(CString& name);
   bool HasName(const CString& name) const;
 

@@ -116,6 +116,11 @@ PaletteEntry PaletteEntryOf(const CString& line) {
   return {line.Mid(0, position), line.Mid(position + 1)};
 }
 
+bool FitsInALine(const PaletteEntry& entry) {
+  const int length = entry.name.GetLength() + 1 + entry.file.GetLength();
+  return length < static_cast<int>(kLineLimit);
+}
+
 PaletteList ReadPaletteList(const CString& folder) {
   PaletteList list;
   LineReader reader(ListPath(folder), kLineLimit);
@@ -133,7 +138,10 @@ CString ReadPaletteLine(const CString& folder, int number) {
   LineReader reader(ListPath(folder), kLineLimit);
   CString line;
   CString next;
-  for (int i = 0; i <= number && reader.ReadLine(next); ++i) line = next;
+  for (int i = 0; reader.ReadLine(next); ++i) {
+    line = next;
+    if (i == number) break;
+  }
   return line;
 }
 

@@ -34,11 +34,14 @@ struct PaletteList {
 
 PaletteEntry PaletteEntryOf(const CString& line);
 
+// Whether a reader of the list gets the entry whole.
+bool FitsInALine(const PaletteEntry& entry);
+
 // A list that can't be opened has no entries. A line of more than 98 bytes gives several.
 PaletteList ReadPaletteList(const CString& folder);
 
-// One line of the list, whatever stands in front of it. Where the list has fewer lines, the empty
-// text, or the last line if that has no line end.
+// One line of the list, whatever stands in front of it. Where the list has no line of that number,
+// the empty text, or the last line if that has no line end.
 CString ReadPaletteLine(const CString& folder, int number);
 
 // The name for the file of a palette that joins the list: "Orbis<n>.plt", where n is the number of

@@ -71,31 +71,32 @@ bool CDlgPalette::HasName(const CString& name) const {
                      [&name](const PaletteEntry& palette) { return palette.name == name; });
 }
 
-void CDlgPalette::RegisterPalette() {
+bool CDlgPalette::RegisterPalette() {
   CString name;
-  if (AfxMessageBox(kAskRegister) != IDOK || !AskForName(name)) return;
+  if (AfxMessageBox(kAskRegister) != IDOK || !AskForName(name)) return true;
   if (m_aPalettes.entries.size() >= kMostRegistered) {
     AfxMessageBox(kListFull);
-    return;
-  }
-  if (HasName(name)) {
-    AfxMessageBox(kNameTaken);
-    return;
+    return true;
   }
   const PaletteEntry palette{name, NewPaletteFile(m_strDir, m_aPalettes)};
+  if (HasName(name) || !FitsInALine(palette)) {
+    AfxMessageBox(kNameTaken);
+    return true;
+  }
   const CString path = m_strDir + palette.file;
-  if (!WritePalette(path, name, "NEW")) return;
+  if (!WritePalette(path, name, "NEW")) return false;
   if (!AddPaletteEntry(m_strDir, m_aPalettes, palette)) {
     RemoveFile(path);
-    return;
+    return false;
   }
   m_aPalettes.entries.push_back(palette);
   ListPalettes();
   m_strChange = "PaletteChange_F";
+  return true;
 }
 
 void CDlgPalette::DeletePalette() {
-  if (IsNewSelected() || !PaletteAt(m_nSelect)) return;
+  if (!PaletteAt(m_nSelect)) return;
   if (AfxMessageBox(kAskDelete) != IDOK) return;
   if (!RemovePaletteEntry(m_strDir, m_aPalettes, static_cast<std::size_t>(m_nSelect))) return;
   ListPalettes();

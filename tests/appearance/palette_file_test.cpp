@@ -144,7 +144,7 @@ TEST_F(PaletteFileTest, WritesEachByteAtItsPlace) {
                                     "4000   0   0   0     4,000m\r\n");
 }
 
-TEST_F(PaletteFileTest, ALongNameLeavesTheColoursAsTheyWereWritten) {
+TEST_F(PaletteFileTest, WhatALongNameLeavesOverIsOverwrittenByTheRows) {
   RowColours written{};
   for (std::size_t row = 0; row < written.size(); ++row) written[row] = row % 3 == 2 ? 0 : 0x123456;
   // What a line can't hold comes as a row of its own.

@@ -92,6 +92,7 @@ TEST_F(PaletteListTest, FindsOneLineWhateverStandsInFront) {
   const std::tuple<const char*, int, const char*> cases[] = {
       {"a$1\r\n\r\nc$3\r\n", 2, "c$3"}, {"a$1\r\n\r\nc$3\r\n", 1, ""}, {"a$1\r\nb$2\r\n", 9, ""},
       {"a$1\r\nb$2", 9, "b$2"},         {"a$1\r\n", -1, ""},           {"", 0, ""},
+      {"a$1\r\nb$2", -1, "b$2"},
   };
   for (const auto& [list, number, line] : cases) {
     folder.Write(kList, list);

@@ -49,6 +49,30 @@ TEST_F(PaletteTest, ARegistrationAsksForANameThatIsNew) {
   EXPECT_EQ(folder.Read("Orbis3.plt"), std::nullopt);
 }
 
+TEST_F(PaletteTest, ANameThatTheListCannotHoldIsNotTaken) {
+  const std::string longest(87, 'x');
+  script.Type(kNames, longest + "x").Click(kEdit).ShowsMessage(kAskRegister, kOk);
+  script.ShowsMessage(kNameTaken, kOk).Shows(kNames, longest + "x");
+  script.Type(kNames, longest).Click(kEdit).ShowsMessage(kAskRegister, kOk);
+  script.ShowsRows(kNames, {"自然", "冬", longest});
+  // The list ends a name at its first $.
+  script.Type(kNames, "a$b").Click(kEdit).ShowsMessage(kAskRegister, kOk);
+  script.ShowsRows(kNames, {"自然", "冬", longest, "a"}).Click(1);
+  EXPECT_EQ(Call(2), "2|0|0|0|1|2|3|4|5|6|");
+  EXPECT_EQ(folder.Read(kList), List(2) + longest + "$Orbis3.plt\r\na$b$Orbis4.plt\r\n");
+}
+
+TEST_F(PaletteTest, ARegisteredPaletteCanBeLoadedAndDeleted) {
+  script.Type(kNames, "x").Click(kEdit).ShowsMessage(kAskRegister, kOk).Pick(kNames, 0);
+  script.Click(Swatch(2)).ChoosesColour(0x040302, 9u).Pick(kNames, 2);
+  script.Does(ShowsSwatches(kSlots, Colours({{1, 0xFF0000}, {10, 0xFFFFFF}})));
+  script.Click(kDelete).ShowsMessage(kAskDelete, kOk).ShowsRows(kNames, {"自然", "冬", kNew});
+  script.Click(1);
+  EXPECT_EQ(Call(2), "2|0|0|255|1|2|3|4|5|6|");
+  EXPECT_EQ(folder.Read(kList), List(2));
+  EXPECT_EQ(folder.Read("Orbis3.plt"), std::nullopt);
+}
+
 TEST_F(PaletteTest, OkRegistersWhatIsPending) {
   script.Click(Swatch(2)).ChoosesColour(0, 1u).Type(kNames, "x").Click(1);
   script.ShowsMessage("配色を登録しますか！", kOk).ShowsMessage(kAskRegister, kOk);
@@ -72,8 +96,8 @@ TEST_F(PaletteTest, NamesThatDifferInCaseAreRegisteredSideBySide) {
   script.Type(kNames, "ＡＢＣ").Click(kEdit).ShowsMessage(kAskRegister, kOk);
   script.Type(kNames, "ａｂｃ").Click(kEdit).ShowsMessage(kAskRegister, kOk);
   script.ShowsMessage(kNameTaken, kOk);
-  script.ShowsRows(kNames, {"abc", "ａｂｃ", "ABC", "ＡＢＣ"}).Escape();
-  Call(2);
+  script.ShowsRows(kNames, {"abc", "ａｂｃ", "ABC", "ＡＢＣ"}).Click(1);
+  EXPECT_EQ(Call(2), "2|0|0|0|1|2|3|4|5|6|");
   EXPECT_EQ(folder.Read(kList), list + std::string("ABC$Orbis3.plt\r\nＡＢＣ$Orbis4.plt\r\n"_sj));
 }
 
@@ -101,11 +125,46 @@ TEST_F(PaletteTest, AnUpdateReplacesTheFileOnceItIsConfirmed) {
 }
 
 TEST_F(PaletteTest, AnUpdateThatCannotBeWrittenStaysPending) {
+  constexpr char kAskSave[] = "配色を更新しますか！";
   std::filesystem::remove(folder.Path() / "Orbis1.plt");
   script.Click(Swatch(2)).ChoosesColour(0, 1u).Click(kEdit).ShowsMessage(kAskUpdate, kOk);
-  script.Click(1).ShowsMessage("配色を更新しますか！", kCancel);
+  script.Click(1).ShowsMessage(kAskSave, kOk).ShowsMessage(kAskUpdate, kOk);
+  script.Does(ShowsSwatches(kSlots, Colours({{2, 1}})));
+  script.Click(1).ShowsMessage(kAskSave, kCancel);
   EXPECT_EQ(Call(0), "0|0|0|0|1|2|3|4|5|6|");
   EXPECT_EQ(folder.Read("Orbis1.plt"), std::nullopt);
+}
+
+TEST_F(PaletteTest, OkStaysUntilTheDiskTakesWhatIsPending) {
+  const struct {
+    int selected;
+    std::uint32_t colour;
+    const char *missing, *question, *confirmation, *written;
+  } cases[] = {
+      {0, 0x040302, "Orbis1.plt", "配色を更新しますか！", kAskUpdate, "Orbis1.plt"},
+      {2, 0, kList, "配色を登録しますか！", kAskRegister, "Orbis3.plt"},
+  };
+  for (const auto& c : cases) {
+    const std::string bytes = folder.Read(c.missing).value();
+    ScriptFrontEnd visit;
+    visit.OpensDialog(177).Click(Swatch(2)).ChoosesColour(c.colour, 9u).Type(kNames, "x");
+    visit.Does([&](DialogSession&) -> std::string {
+      std::filesystem::remove(folder.Path() / c.missing);
+      return "";
+    });
+    visit.Click(1).ShowsMessage(c.question, kOk).ShowsMessage(c.confirmation, kOk);
+    visit.Shows(kNames, "x").Does([&](DialogSession&) -> std::string {
+      EXPECT_EQ(folder.Read(c.written), std::nullopt);
+      folder.Write(c.missing, bytes);
+      return "";
+    });
+    visit.Click(1).ShowsMessage(c.question, kOk).ShowsMessage(c.confirmation, kOk);
+    ScopedFrontEnd scope(&visit);
+    EXPECT_NE(OnMapPalleteSet(c.selected, "", folder.Argument(), 0, kLake, kBack), "");
+    EXPECT_EQ(visit.Failures(), "");
+    const std::string text = folder.Read(c.written).value_or("");
+    EXPECT_NE(text.find(" 100   9   0   0"), std::string::npos) << text;
+  }
 }
 
 TEST_F(PaletteTest, ADeletionRenumbersAndStaysAfterCancel) {
@@ -125,6 +184,14 @@ TEST_F(PaletteTest, AfterADeletionTheNumberNamesThePaletteBehind) {
   script.Click(kDelete).ShowsMessage(kAskDelete, kOk).ShowsRows(kNames, {kNew}).Click(1);
   EXPECT_EQ(Call(0), "0|20|20|20|1|2|3|4|5|6|");
   EXPECT_EQ(folder.Read(kList), "");
+}
+
+TEST_F(PaletteTest, ADeletionDropsAChangeAndLeavesTheColoursToThePaletteBehind) {
+  script.Click(Swatch(2)).ChoosesColour(0x040302, 9u);
+  script.Click(kDelete).ShowsMessage(kAskDelete, kOk).Click(kEdit);
+  script.ShowsMessage(kAskUpdate, kCancel).Click(1);
+  EXPECT_EQ(Call(0), "0|10|10|10|1|2|3|4|5|6|");
+  EXPECT_EQ(folder.Read("Orbis1.plt"), Text(kWinter));
 }
 
 TEST_F(PaletteTest, ADeletionMakesRoomForTheNewEntry) {
@@ -233,17 +300,17 @@ TEST_F(FailingDiskTest, WhatTheDiskRefusesHasNoEffect) {
   ClickOnAFailingDisk(1, nothing, kDelete, kAskDelete);
 }
 
-TEST_F(PaletteTest, WithNothingPendingTheEditorOpensTheFile) {
+TEST_F(PaletteTest, WithNothingPendingTheEditorOpensTheFileOfTheChosenRow) {
   const std::string program = (folder.Path() / "editor").string();
   folder.Write("editor", "#!/bin/sh\necho ' 100   7   7   7' > \"$1\"\n");
   chmod(program.c_str(), 0755);
   // A lake colour lies in no file, so that it leaves nothing pending.
-  script.Click(Swatch(11)).ChoosesColour(kLake, 9u).Shows(kEdit, "更新").Click(kEdit);
-  script.Click(Swatch(11)).ChoosesColour(9, kLake);
-  script.Does(ShowsSwatches(kSlots, Colours(kNatural))).Pick(kNames, 0);
+  script.Click(Swatch(11)).ChoosesColour(kLake, 9u).Shows(kEdit, "更新").Pick(kNames, 1);
+  script.Click(kEdit).Click(Swatch(11)).ChoosesColour(9, kLake);
+  script.Does(ShowsSwatches(kSlots, Colours(kWinter))).Pick(kNames, 1);
   script.Does(ShowsSwatches(kSlots, Colours({{2, 0x070707}}))).Click(1);
-  EXPECT_EQ(Call(0, program.c_str()), "0|0|0|0|1|2|3|4|5|6|");
-  EXPECT_EQ(folder.Read("Orbis1.plt"), " 100   7   7   7\n");
+  EXPECT_EQ(Call(0, program.c_str()), "1|0|0|0|1|2|3|4|5|6|");
+  EXPECT_EQ(folder.Read("Orbis2.plt"), " 100   7   7   7\n");
 }
 
 }  // namespace

@@ -74,7 +74,8 @@ TEST_F(PaletteTest, AColourIsChosenForOneSlotAndTheClickedSwatchStandsOut) {
   script.Click(Swatch(2)).ChoosesColour(0x040302, 0x040302).Shows(kEdit, "編集");
   script.Click(Swatch(2)).ChoosesColour(0x040302, 0x0000FF).Does(ShowsFramed({Swatch(2)}));
   script.Does(ShowsSwatches(kSlots, Colours(changed))).Shows(kEdit, "更新").Shows(kNote, kHint);
-  script.Paint().Does(ShowsFramed({Swatch(2)})).Pick(kNames, 1).Shows(kEdit, "更新").Click(2);
+  script.Paint().Does(ShowsFramed({Swatch(2)})).Does(ShowsSwatches(kSlots, Colours(changed)));
+  script.Pick(kNames, 1).Shows(kEdit, "更新").Click(2);
   EXPECT_EQ(Call(0), "");
 }
 
@@ -83,6 +84,30 @@ TEST_F(PaletteTest, LakesAndBackgroundGoToTheResultAndNotToTheFile) {
   script.Click(Swatch(13)).ChoosesColour(kBack, 0xFFFFFF).Pick(kNames, 1).Click(1);
   EXPECT_EQ(Call(0), "1|20|20|20|10|11|12|255|255|255|");
   EXPECT_EQ(folder.Read("Orbis1.plt"), Text(kNatural));
+}
+
+TEST_F(PaletteTest, TheNewEntryChoosesLakesAndBackgroundFromBlack) {
+  script.Click(Swatch(11)).ChoosesColour(0, 0x0C0B0A).Click(Swatch(13)).ChoosesColour(0, 7u);
+  script.Click(Swatch(11)).ChoosesColour(0x0C0B0A, std::nullopt).Click(1);
+  EXPECT_EQ(Call(2), "2|0|0|0|10|11|12|7|0|0|");
+}
+
+TEST_F(PaletteTest, EachSwatchOfAnElevationIsSavedInItsRow) {
+  std::map<int, std::uint32_t> colours;
+  for (const int slot : {1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 12}) {
+    const std::uint32_t old = kNatural.contains(slot) ? kNatural.at(slot) : 0;
+    colours[slot] = 0x010203u * static_cast<unsigned>(slot);
+    ScriptFrontEnd visit;
+    visit.OpensDialog(177).Click(Swatch(static_cast<std::size_t>(slot)));
+    visit.ChoosesColour(old, colours[slot]).Click(1);
+    visit.ShowsMessage("配色を更新しますか！", kOk)
+        .ShowsMessage("現在選択中の配色を更新します！", kOk);
+    ScopedFrontEnd scope(&visit);
+    OnMapPalleteSet(0, "", folder.Argument(), 0, kLake, kBack);
+    EXPECT_EQ(visit.Failures(), "") << slot;
+  }
+  script.Does(ShowsSwatches(kSlots, Colours(colours))).Escape();
+  Call(0);
 }
 
 struct OkCase {
@@ -117,6 +142,11 @@ TEST_F(PaletteTest, OkAsksAboutTheChosenRowIfAChangeIsPending) {
        "0|10|10|10|1|2|3|4|5|6|", kNatural},
       {"a new sea, which is not in the result", 0,
        [&](ScriptFrontEnd& visit) { change(visit, 1).Click(1).ShowsMessage(kAskSaveOld, kCancel); },
+       "0|10|10|10|1|2|3|4|5|6|", kNatural},
+      {"the same colour again", 0,
+       [&](ScriptFrontEnd& visit) {
+         visit.Click(Swatch(2)).ChoosesColour(0x040302, 0x040302).Click(1);
+       },
        "0|10|10|10|1|2|3|4|5|6|", kNatural},
       {"dropped by a lake colour", 0,
        [&](ScriptFrontEnd& visit) { change(change(visit, 2), 11).Click(1); },
