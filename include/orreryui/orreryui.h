@@ -33,7 +33,8 @@ extern "C" {
 // method, coastline colour and projections, and for the map by prefecture the region. The palettes
 // are those listed in "PLTTFILE.DAT" in `folder`. No file is written. Indices count from 0, in the
 // order of the dialog's lists; one that its list doesn't hold comes back unchanged if the user
-// picks none.
+// picks none. P becomes 1 where the user makes the map by prefecture a tint map with the button, or
+// chooses a region for a tint map.
 //
 //   palette        the number of the palette: its line in the list, from 0
 //   kind           10 * J + K. K is the kind of the map: 1 topographic map 1:200000, 2 archipelago,

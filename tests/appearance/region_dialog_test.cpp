@@ -52,6 +52,8 @@ TEST_F(RegionDialogTest, SeveralMayBeDown) {
   script.Shows(kWhole, "すべての都道府県").Shows(1683, "(複数選択可)");
   script.Shows(1684,
                "国土数値情報のうち全国版でダウンロードしたデータの一部は地域選択できません！");
+  script.Shows(kHokkaido, "北海道").Shows(kTokyo, "東京").Shows(kWhole + 28, "兵庫");
+  script.Shows(kWhole + 31, "鳥取").Shows(kWhole + 32, "島根").Shows(kOkinawa, "沖縄");
   ShowsDown({});
   script.Click(kIwate);
   ShowsDown({kIwate});
@@ -116,6 +118,16 @@ TEST_F(RegionDialogTest, OtherNumbersAreUpAndAClickMakesThemZero) {
   ShowsDown({kWhole});
   script.Click(2);
   EXPECT_EQ(Run(), IDCANCEL);
+}
+
+TEST_F(RegionDialogTest, NumbersThatAddUpToNothingTurnTheWholeOn) {
+  dialog.m_nState[3] = -1;
+  dialog.m_nState[13] = dialog.m_nState[7] = 1;
+  script.Click(kFukushima);
+  ShowsDown({kWhole});
+  script.Click(1);
+  EXPECT_EQ(Run(), IDOK);
+  EXPECT_EQ(SlotsOn(), std::vector<int>{0});
 }
 
 TEST_F(RegionDialogTest, NothingNeedsToBeDown) {

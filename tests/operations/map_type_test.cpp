@@ -239,6 +239,34 @@ TEST_F(MapTypeTest, ATintMapMayHaveNoCoastline) {
   EXPECT_EQ(Call({.kind = 3, .fill = 10001, .coast_on_tint = 0}), "1|1|1|0|2|0|1|1|8|0|");
 }
 
+TEST_F(MapTypeTest, APaletteOfABlankPrefectureMapLeavesItsProjectionAndCoastline) {
+  script.Pick(kPalette, 0).Shows(kCoastline, "黄").ShowsSelection(kPrefProjection, 0);
+  ShowsTint(true);
+  script.Click(1);
+  EXPECT_EQ(Call({.kind = 3, .fill = 0, .coast_on_tint = 0}), "1|0|3|1|2|0|0|1|5|0|");
+}
+
+TEST_F(MapTypeTest, TheSansonProjectionLeavesTheCoastlineAsItIsShown) {
+  script.Pick(kPrefProjection, 0).ShowsSelection(kCoastline, -1);
+  ShowsBlank();
+  script.Click(1);
+  EXPECT_EQ(Call({.kind = 3, .fill = 10001, .coast_on_tint = 0}), "1|1|3|0|2|0|0|1|5|0|");
+}
+
+TEST_F(MapTypeTest, ATintMapOfAnyOtherKindShowsThePrefecturesCoastline) {
+  script.ShowsSelection(kCoastline, -1).Click(kTint).Shows(kCoastline, "黄").Click(1);
+  EXPECT_EQ(Call({.kind = 0}), "-1|1|0|1|2|0|0|1|5|0|");
+  script.OpensDialog(159).Click(kTint).ShowsSelection(kCoastline, -1).Click(1);
+  EXPECT_EQ(Call({.kind = 0, .coast_on_tint = 2}), "-1|1|0|1|2|0|0|1|5|0|");
+}
+
+TEST_F(MapTypeTest, AMethodIsTakenFromABlankMapAndChangesNothingElse) {
+  script.Pick(kMethod, 4).Shows(kPalette, kBlankText).Shows(kMethod, "段彩(高度200m間隔)");
+  ShowsTint(false);
+  script.Click(1);
+  EXPECT_EQ(Call({.fill = 0}), "1|1|1|0|4|0|0|1|5|0|");
+}
+
 TEST_F(MapTypeTest, ARegionEndsTheWhole) {
   script.Pick(kPalette, 0).Click(kPrefectures);
   script.OpensDialog(179).ShowsTitle(" 都道府県別地図").ShowsCheck(kKanagawa, true);
