@@ -7,7 +7,7 @@
 namespace orreryui {
 
 // Beeps and lets the user choose a file that exists. The name field starts with `start_name`, and a
-// name that has no extension gets `default_extension`. `filter` is what the user can narrow the
+// name that has no extension and isn't there gets `default_extension`. `filter` is what the user can narrow the
 // list to beside all files: a label, a vertical bar and a pattern, such as "text (*.txt)|*.txt".
 // All are in code page 932.
 //

@@ -2,8 +2,10 @@
 
 #include <QColorDialog>
 #include <QDialogButtonBox>
+#include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QFileSystemModel>
 #include <QLineEdit>
 #include <QPushButton>
 
@@ -22,20 +24,42 @@ void MakeModal(QDialog& dialog) {
   dialog.setWindowModality(Qt::ApplicationModal);
 }
 
-// A file chooser in whose name field wildcards don't name a file: they say which files to list.
+// A file chooser in whose name field wildcards say which files to list, unless a file is named so.
 class FileChooser : public QFileDialog {
  public:
-  using QFileDialog::QFileDialog;
+  // A name without an extension that isn't there means the file with `extension`.
+  FileChooser(QWidget* owner, const QString& extension)
+      : QFileDialog(owner), extension_(extension) {}
 
   void accept() override {
     const QStringList chosen = selectedFiles();
-    const QString name = chosen.isEmpty() ? QString() : QFileInfo(chosen.front()).fileName();
-    if (HasWildcard(name)) {
-      setNameFilter(name);
-    } else {
-      QFileDialog::accept();
-    }
+    const QFileInfo file(chosen.isEmpty() ? QString() : chosen.front());
+    if (HasWildcard(file.fileName()) && !file.exists()) return ListFiles(file);
+    if (fileMode() == ExistingFile && !file.exists() && file.suffix().isEmpty()) Complete(file);
+    QFileDialog::accept();
   }
+
+ private:
+  // The types of files that the user can choose from stay as they are.
+  void ListFiles(const QFileInfo& pattern) {
+    if (pattern.dir().exists()) setDirectory(pattern.dir());
+    ShowName(pattern.fileName());
+    auto* const files = findChild<QFileSystemModel*>();
+    if (files != nullptr) files->setNameFilters({pattern.fileName()});
+  }
+
+  void Complete(const QFileInfo& file) {
+    const QString completed = file.filePath() + QLatin1Char('.') + extension_;
+    if (QFileInfo::exists(completed)) ShowName(completed);
+  }
+
+  // selectFile leaves the name field alone while it has the focus.
+  void ShowName(const QString& name) {
+    auto* const field = findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
+    if (field != nullptr) field->setText(name);
+  }
+
+  const QString extension_;
 };
 
 QStringList NameFilters(const FileChooserRequest& request) {
@@ -60,17 +84,19 @@ void LabelInJapanese(QFileDialog& dialog, bool must_exist) {
   dialog.setLabelText(QFileDialog::Reject, QStringLiteral("キャンセル"));
 }
 
+// A name without a folder leaves the chooser in the folder where the last file was chosen.
 void StartAt(QFileDialog& dialog, const QString& name) {
   if (name.isEmpty()) return;
   const QFileInfo file(name);
-  if (file.dir().exists()) dialog.setDirectory(file.dir());
+  if (file.fileName() != name && file.dir().exists()) dialog.setDirectory(file.dir());
   dialog.selectFile(file.fileName());
 }
 
 }  // namespace
 
 std::optional<std::string> AskFile(QWidget* owner, const FileChooserRequest& request) {
-  FileChooser dialog(owner);
+  const QString extension = FromUtf8(request.default_extension);
+  FileChooser dialog(owner, extension);
   MakeModal(dialog);
   dialog.setAcceptMode(request.must_exist ? QFileDialog::AcceptOpen : QFileDialog::AcceptSave);
   dialog.setFileMode(request.must_exist ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
@@ -79,7 +105,7 @@ std::optional<std::string> AskFile(QWidget* owner, const FileChooserRequest& req
   // The label alone is shown, which may name the patterns itself.
   dialog.setOption(QFileDialog::HideNameFilterDetails);
   dialog.setNameFilters(NameFilters(request));
-  dialog.setDefaultSuffix(FromUtf8(request.default_extension));
+  if (!request.must_exist) dialog.setDefaultSuffix(extension);
   LabelInJapanese(dialog, request.must_exist);
   StartAt(dialog, FromUtf8(request.start_name));
   if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return std::nullopt;

@@ -55,8 +55,7 @@ TEST_F(MessageBoxes, EscCloseBoxAndButtonCancel) {
 class FileChooser : public Choosers {
  protected:
   FileChooser() {
-    QFile file(folder_.filePath("図.txt"));
-    file.open(QIODevice::WriteOnly);
+    Make("図.txt");
     request_.start_name = folder_.filePath("図.txt").toStdString();
     request_.filters = {{"テキスト", {"*.txt", "*.dat"}}};
   }
@@ -64,11 +63,16 @@ class FileChooser : public Choosers {
   static void Type(QWidget& front, const QString& name) {
     auto* const edit = front.findChild<QLineEdit*>("fileNameEdit");
     edit->selectAll();
-    QTest::keyClicks(edit, name);
+    edit->insert(name);
     QTest::keyClick(edit, Qt::Key_Return);
   }
 
   std::string InFolder(const QString& name) { return folder_.filePath(name).toStdString(); }
+
+  void Make(const QString& name) {
+    QFile file(folder_.filePath(name));
+    file.open(QIODevice::WriteOnly);
+  }
 
   QTemporaryDir folder_;
   FileChooserRequest request_;
@@ -115,14 +119,76 @@ TEST_F(FileChooser, TakesAnExistingNameWithoutAQuestion) {
   EXPECT_EQ(front_end_.ChooseFile(request_), InFolder("図.txt"));
 }
 
-TEST_F(FileChooser, WildcardsAreNoName) {
-  request_.start_name = InFolder("*.txt");
+TEST_F(FileChooser, FindsAFileWithTheExtensionOrWithout) {
+  request_.must_exist = true;
+  request_.default_extension = "txt";
+  Make("README");
+  Make("README.txt");
+  const std::pair<const char*, const char*> cases[] = {
+      {"README", "README"}, {"図", "図.txt"}, {"図.txt", "図.txt"}};
+  for (const auto& [typed, chosen] : cases) {
+    ThenInFront([typed = typed](QWidget& front) { Type(front, typed); });
+    EXPECT_EQ(front_end_.ChooseFile(request_), InFolder(chosen));
+  }
+}
+
+TEST_F(FileChooser, StaysOpenForAFileThatMustExistAndDoesNot) {
+  request_.must_exist = true;
+  request_.default_extension = "txt";
   ThenInFront([](QWidget& front) {
-    auto& dialog = static_cast<QFileDialog&>(front);
-    EXPECT_EQ(dialog.findChild<QLineEdit*>("fileNameEdit")->text(), "*.txt");
-    static_cast<QDialog&>(front).accept();
-    EXPECT_TRUE(dialog.isVisible());
-    dialog.reject();
+    ThenInFront([](QWidget& message) {
+      EXPECT_TRUE(static_cast<QMessageBox&>(message).text().contains("missing"));
+      static_cast<QDialog&>(message).accept();
+    });
+    Type(front, "missing");
+    EXPECT_TRUE(front.isVisible());
+    static_cast<QDialog&>(front).reject();
+  });
+  EXPECT_EQ(front_end_.ChooseFile(request_), std::nullopt);
+}
+
+TEST_F(FileChooser, WildcardsSayWhatIsListedAndLeaveTheTypes) {
+  QDir(folder_.path()).mkdir("sub");
+  request_.filters.push_back({"All", {"*"}});
+  request_.start_name = InFolder("*.txt");
+  for (const bool must_exist : {true, false}) {
+    request_.must_exist = must_exist;
+    ThenInFront([this](QWidget& front) {
+      auto& dialog = static_cast<QFileDialog&>(front);
+      auto* const name = dialog.findChild<QLineEdit*>("fileNameEdit");
+      auto* const types = front.findChild<QComboBox*>("fileTypeCombo");
+      auto* const files = front.findChild<QFileSystemModel*>();
+      EXPECT_EQ(name->text(), "*.txt");
+      static_cast<QDialog&>(front).accept();
+      EXPECT_TRUE(dialog.isVisible());
+      EXPECT_EQ(types->count(), 2);
+      Type(front, "sub/a?.*");
+      EXPECT_TRUE(dialog.isVisible());
+      EXPECT_EQ(dialog.directory(), QDir(folder_.filePath("sub")));
+      EXPECT_EQ(name->text(), "a?.*");
+      EXPECT_THAT(files->nameFilters(), testing::ElementsAre("a?.*"));
+      QTest::keyClick(types, Qt::Key_Down);
+      EXPECT_THAT(files->nameFilters(), testing::ElementsAre("*"));
+      dialog.reject();
+    });
+    EXPECT_EQ(front_end_.ChooseFile(request_), std::nullopt);
+  }
+}
+
+TEST_F(FileChooser, AFileMayBeNamedLikeAPattern) {
+  Make("何?.txt");
+  request_.must_exist = true;
+  ThenInFront([](QWidget& front) { Type(front, "何?.txt"); });
+  EXPECT_EQ(front_end_.ChooseFile(request_), InFolder("何?.txt"));
+}
+
+TEST_F(FileChooser, ANameWithoutAFolderStartsWhereTheLastFileWasChosen) {
+  ThenInFront([](QWidget& front) { static_cast<QDialog&>(front).accept(); });
+  EXPECT_EQ(front_end_.ChooseFile(request_), InFolder("図.txt"));
+  request_.start_name = "*.txt";
+  ThenInFront([this](QWidget& front) {
+    EXPECT_EQ(static_cast<QFileDialog&>(front).directory(), QDir(folder_.path()));
+    static_cast<QDialog&>(front).reject();
   });
   EXPECT_EQ(front_end_.ChooseFile(request_), std::nullopt);
 }
