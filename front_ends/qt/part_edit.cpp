@@ -48,6 +48,13 @@ void PartEdit::keyPressEvent(QKeyEvent* event) {
   const bool to_end = event->matches(QKeySequence::MoveToEndOfDocument) && LacksBehind();
   if (to_start) Fetch(0);
   if (to_end) Fetch(part_.all - 1);
+  const bool is_enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+  if (is_enter && !isReadOnly()) {
+    // Whatever other keys are held: Qt leaves some of these to the window.
+    insertPlainText(QStringLiteral("\n"));
+    ensureCursorVisible();
+    return;
+  }
   QPlainTextEdit::keyPressEvent(event);
 }
 

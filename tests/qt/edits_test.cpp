@@ -95,6 +95,27 @@ TEST(Edits, LinesAreJoinedByCrLf) {
   });
 }
 
+TEST(Edits, EnterBreaksTheLineAtTheCursorWhateverKeysAreHeld) {
+  const Qt::KeyboardModifiers held[] = {Qt::NoModifier, Qt::ShiftModifier, Qt::ControlModifier,
+                                        Qt::AltModifier, Qt::KeypadModifier};
+  for (const Qt::KeyboardModifiers modifiers : held) {
+    FakeSession session;
+    session.Add(kLines, 1, "一二");
+    session.layout.focus = 1;
+    RunWithUser(session, [&](QDialog& window) {
+      auto& edit = ControlWidget<QPlainTextEdit>(window, 1);
+      edit.moveCursor(QTextCursor::Start);
+      edit.moveCursor(QTextCursor::NextCharacter);
+      const bool keypad = modifiers == Qt::KeypadModifier;
+      QTest::keyClick(&edit, keypad ? Qt::Key_Enter : Qt::Key_Return, modifiers);
+      EXPECT_THAT(session.Take(), ElementsAre("type 1 一\r\n二"));
+      EXPECT_EQ(edit.textCursor().position(), 2);
+      edit.undo();
+      EXPECT_THAT(session.Take(), ElementsAre("type 1 一二"));
+    });
+  }
+}
+
 TEST(Edits, NoBreakSpacesStay) {
   for (ControlKind kind : {kLine, kLines}) {
     FakeSession session;
