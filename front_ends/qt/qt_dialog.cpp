@@ -160,6 +160,12 @@ void QtDialog::Place() {
   move(Inside(QRect(window.topLeft(), window.size() + kWindowFrame), area).topLeft());
 }
 
+void QtDialog::StayOnScreen() {
+  const QRect window = frameGeometry();
+  const QRect inside = Inside(window, screen()->availableGeometry());
+  if (inside != window) move(inside.topLeft());
+}
+
 void QtDialog::Refresh(const std::vector<int>& indices) {
   if (pane_ != nullptr) pane_->Refresh(indices);
 }
@@ -175,7 +181,9 @@ void QtDialog::RefreshLayout() {
 
 void QtDialog::ContentsChanged() {
   if (scale_.x <= 0 || Ended()) return;
+  const QSize before = size();
   Quietly([this] { Arrange(); });
+  if (isVisible() && size() != before) StayOnScreen();
   FocusChanged();
 }
 

@@ -46,6 +46,7 @@ class QtDialog : public QDialog, public DialogWindow, private PaneFrame {
   void OrderTabs();
   void ShowFocus();
   void Place();
+  void StayOnScreen();
   const QWindow* HostWindow() const;  // that the outermost dialog stands before, or null
   QRect AvailableArea() const;
   void Paint();

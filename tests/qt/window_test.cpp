@@ -206,6 +206,19 @@ TEST(Window, OpensAtItsPlaceWhereverTheDialogBelowItIs) {
   });
 }
 
+TEST(Window, StaysOnTheScreenWhenItGrows) {
+  FakeSession session;
+  session.layout.placement = Placement::kAtPixel;
+  session.layout.x = 10000;
+  session.Add(ControlKind::kStatic, 1, "短", 8).place.width = 60;
+  RunWithUser(session, [&](QDialog& window) {
+    const int before = window.width();
+    session.Change(1, [](ControlView& view) { view.text = "すこし長い文字列がここに入る"; });
+    EXPECT_GT(window.width(), before);
+    EXPECT_TRUE(window.screen()->availableGeometry().contains(window.geometry()));
+  });
+}
+
 TEST(Window, StaysOnTheScreen) {
   FakeSession session;
   session.Add(ControlKind::kPushButton, 1, "OK");
