@@ -13,8 +13,6 @@ StaticBinder::StaticBinder(const BinderPlace& place)
 
 void StaticBinder::ShowState(const ControlView& view) {
   label_->setAlignment((view.right_aligned ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
-  const QString text = FromLines(view.text);
-  if (label_->text() != text) label_->setText(text);
 }
 
 QSize StaticBinder::Needed(const ControlView& view, QSize offered) const {
@@ -23,14 +21,15 @@ QSize StaticBinder::Needed(const ControlView& view, QSize offered) const {
 
 void StaticBinder::Arrange(const ControlView& view, const DialogScale& scale) {
   ControlBinder::Arrange(view, scale);
+  const QString text = FromLines(view.text);
+  const QFont font = label_->font();
+  const bool fits = NeededSize(text, font, label_->size()) == label_->size();
+  const QString shown = fits ? text : Shortened(text, font, label_->size());
+  if (label_->text() != shown) label_->setText(shown);
   // Text that wraps takes longer to draw.
-  label_->setWordWrap(TextSize(label_->text(), label_->font()).width() > label_->width());
-  ShowOverflow();
-}
-
-void StaticBinder::ShowOverflow() {
-  const bool fits = NeededSize(label_->text(), label_->font(), label_->size()) == label_->size();
-  label_->setToolTip(fits ? QString() : label_->text().toHtmlEscaped());
+  label_->setWordWrap(fits && TextSize(text, font).width() > label_->width());
+  label_->setToolTip(fits ? QString() : text.toHtmlEscaped());
+  label_->setAccessibleName(fits ? QString() : text);
 }
 
 GroupBoxBinder::GroupBoxBinder(const BinderPlace& place)

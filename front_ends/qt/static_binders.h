@@ -9,7 +9,7 @@
 
 namespace orreryui {
 
-// Plain text. A text that its rectangle can't hold shows itself whole in a tool tip.
+// Plain text. Where its rectangle can't hold it the label shows the beginning, and a tool tip all.
 class StaticBinder : public ControlBinder {
  public:
   explicit StaticBinder(const BinderPlace& place);
@@ -21,8 +21,6 @@ class StaticBinder : public ControlBinder {
   void ShowState(const ControlView& view) override;
 
  private:
-  void ShowOverflow();
-
   QLabel* label_;
 };
 

@@ -23,6 +23,10 @@ int LineHeight(const QFont& font);
 // that is larger in the direction that would help.
 QSize NeededSize(const QString& text, const QFont& font, QSize offered);
 
+// The beginning of a text that `size` can't hold: as many whole lines as there is height for, one
+// at least, with an ellipsis at the end.
+QString Shortened(const QString& text, const QFont& font, QSize size);
+
 }  // namespace orreryui
 
 #endif  // ORRERYUI_FRONT_ENDS_QT_TEXT_FIT_H_

@@ -29,6 +29,7 @@ void ExpectRoomForText(const QLabel& label) {
   const QSize text = label.fontMetrics().boundingRect(room, breaks, label.text()).size();
   EXPECT_LE(text.width(), label.width()) << label.text().toStdString();
   EXPECT_LE(text.height(), label.height()) << label.text().toStdString();
+  EXPECT_EQ(label.toolTip(), "") << "the text was shortened";
 }
 
 void ExpectRoomForTitle(const QGroupBox& box) {

@@ -32,6 +32,14 @@ void AddTightControls(FakeSession& session) {
   session.Add(ControlKind::kEdit, 7, "鎌倉(計12地点)", 12);
 }
 
+// The label shows no more than it has room for, in so many lines.
+void ExpectShortened(const QLabel& label, int lines) {
+  EXPECT_TRUE(label.text().endsWith(QChar(0x2026))) << label.text().toStdString();
+  EXPECT_GE(label.text().count('\n') + 1, lines);
+  EXPECT_LE(label.sizeHint().width(), label.width());
+  EXPECT_LE(label.sizeHint().height(), label.height());
+}
+
 void ExpectNothingCut(QDialog& window) {
   for (int id : {1, 2}) {
     const auto& label = ControlWidget<QLabel>(window, id);
@@ -90,6 +98,23 @@ TEST(Fit, TextThatGrowsLaterFitsAsWell) {
     session.Change(1, [](ControlView& view) { view.text = std::string(400, 'x'); });
     EXPECT_EQ(label.toolTip(), QString(400, 'x'));
     EXPECT_LE(window.width(), window.screen()->availableGeometry().width());
+    ExpectShortened(label, 1);
+    session.Change(1, [](ControlView& view) { view.text = "短"; });
+    EXPECT_EQ(label.text(), "短");
+    EXPECT_EQ(label.toolTip(), "");
+  });
+}
+
+TEST(Fit, TextThatOverflowsEndsInAnEllipsis) {
+  FakeSession session;
+  std::string text;
+  for (int i = 0; i < 40; ++i) text += "長い名前";
+  session.Add(ControlKind::kStatic, 1, text, 18).place.width = 74;
+  RunWithUser(session, [&](QDialog& window) {
+    const auto& label = ControlWidget<QLabel>(window, 1);
+    ExpectShortened(label, 2);
+    EXPECT_EQ(label.toolTip().toStdString(), text);
+    EXPECT_EQ(label.accessibleName().toStdString(), text);
   });
 }
 
