@@ -60,7 +60,8 @@ ORRERYUI_EXPORT CString OnMapTypeSet(int palette, int kind, int fill, int coast,
 // Lets the user choose a palette of the relief map, change its colours, register, update or delete
 // one, or open its file in a text editor. The palettes are listed in "PLTTFILE.DAT" in `folder`,
 // and each has a text file there; what the user saves or deletes is on the disk at once. The list
-// must exist for a palette to be registered.
+// must exist for a palette to be registered, and its name and its file's name have 97 bytes at the
+// most.
 //
 //   selected           the number of the palette chosen so far: its line in the list, from 0. Comes
 //                      back unchanged if the list has no such line and the user picks none.
