@@ -20,9 +20,6 @@ QStringList FirstColumn(const std::vector<std::vector<std::string>>& rows);
 // Shows rows and selection of the control in the list.
 void ShowRows(QListWidget* list, const ControlView& view);
 
-// Selects a row of the view and scrolls to it, if it isn't the selected one. -1 selects none.
-void SelectRow(QAbstractItemView* view, int row);
-
 // Turns picks and double clicks in the view into gestures on the control `id`.
 template <class View>
 void ReportPicks(PickingView<View>* view, std::function<void(const GestureRunner::Gesture&)> run,

@@ -10,6 +10,9 @@
 
 namespace orreryui {
 
+// Selects a row of the view and scrolls to it, if it isn't the selected one. -1 selects none.
+void SelectRow(QAbstractItemView* view, int row);
+
 // A list or tree widget. A pick is reported when the mouse button comes up, also on the row that
 // was selected already, and when a key has changed the row.
 template <class View>
@@ -61,13 +64,29 @@ class PickingView : public View {
   }
 
   void keyPressEvent(QKeyEvent* event) override {
-    const int before = this->currentIndex().row();
-    View::keyPressEvent(event);
-    const int after = this->currentIndex().row();
+    const int before = SelectedRow();
+    if (before < 0 && IsMove(event->key())) {
+      // The view would go on from the row that got its frame with the focus.
+      SelectRow(this, event->key() == Qt::Key_End ? this->model()->rowCount() - 1 : 0);
+    } else {
+      View::keyPressEvent(event);
+    }
+    const int after = SelectedRow();
     if (after != before && after >= 0) on_pick(after);
   }
 
  private:
+  static bool IsMove(int key) {
+    return key == Qt::Key_Up || key == Qt::Key_Down || key == Qt::Key_Home || key == Qt::Key_End ||
+           key == Qt::Key_PageUp || key == Qt::Key_PageDown;
+  }
+
+  // -1 if there is none.
+  int SelectedRow() const {
+    const QModelIndexList rows = this->selectionModel()->selectedRows();
+    return rows.isEmpty() ? -1 : rows.front().row();
+  }
+
   bool pressed_ = false;  // the left button, on a row
 };
 

@@ -57,6 +57,29 @@ TEST(Lists, KeysPick) {
   });
 }
 
+TEST(Lists, AKeyPicksTheFirstRowWhereNoneIsSelected) {
+  const std::pair<Qt::Key, const char*> cases[] = {
+      {Qt::Key_Down, "pick 2 0"}, {Qt::Key_Up, "pick 2 0"},  {Qt::Key_PageDown, "pick 2 0"},
+      {Qt::Key_Home, "pick 2 0"}, {Qt::Key_End, "pick 2 1"}, {Qt::Key_Space, "pick 2 0"},
+      {Qt::Key_A, "pick 2 0"}};
+  for (const ControlKind kind : {ControlKind::kListBox, ControlKind::kReportList}) {
+    for (const auto& [key, pick] : cases) {
+      FakeSession session;
+      session.Add(ControlKind::kPushButton, 1, "OK");
+      ControlView& view = session.Add(kind, 2, {}, 80);
+      view.columns = {{"名称", 80}};
+      view.rows = {{"a"}, {"b"}};
+      view.selection = -1;
+      RunWithUser(session, [&, key = key, pick = pick](QDialog& window) {
+        QTest::keyClick(window.focusWidget(), Qt::Key_Tab);
+        EXPECT_EQ(window.focusWidget()->objectName(), "2");
+        QTest::keyClick(window.focusWidget(), key);
+        EXPECT_THAT(session.Take(), testing::Contains(pick)) << key;
+      });
+    }
+  }
+}
+
 TEST(Lists, DoubleClickComesAfterPick) {
   FakeSession session;
   AddList(session, ControlKind::kListBox);
