@@ -95,12 +95,16 @@ const char* LineReader::FindLineFeed() {
 
 bool LineReader::ReadLine(std::string_view& line) {
   const char* const line_feed = FindLineFeed();
+  if (!line_feed && failed_) {
+    line = {};
+    return false;
+  }
   const char* const begin = block_.get() + begin_;
   std::size_t length = line_feed ? static_cast<std::size_t>(line_feed - begin) : end_ - begin_;
   std::size_t taken = length + (line_feed ? 1 : 0);
   if (taken == 0) {
     line = {};
-    return std::exchange(empty_line_due_, false) && !failed_;
+    return std::exchange(empty_line_due_, false);
   }
   if (line_feed && length > 0 && begin[length - 1] == '\r') --length;
   empty_line_due_ = line_feed != nullptr;
