@@ -1,7 +1,5 @@
 #include "presentation/memo_dialog.h"
 
-#include <utility>
-
 #include "presentation/attached_text.h"
 #include "templates/memo.h"
 
@@ -20,9 +18,18 @@ CDlgMemo::CDlgMemo() : CDialog(kTemplate) {}
 void CDlgMemo::OnInitDialog() {
   if (m_nLeft >= 1) MoveWindow(m_nLeft, kTop);
   SetDlgItemText(kPath, m_strFile);
-  if (m_nMemoMode == kMemoOfFile) m_strText = ReadMemo(m_strFile);
-  if (m_nMemoMode == kPreviewOfFile) m_strText = ReadPreview(m_strFile);
-  SetDlgItemText(kText, std::move(m_strText));
+  SetDlgItemText(kText, Text());
+}
+
+CString CDlgMemo::Text() const {
+  switch (m_nMemoMode) {
+    case kMemoOfFile:
+      return ReadMemo(m_strFile);
+    case kPreviewOfFile:
+      return ReadPreview(m_strFile);
+    default:
+      return m_strText;
+  }
 }
 
 }  // namespace orreryui

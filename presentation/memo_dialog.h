@@ -18,10 +18,11 @@ class CDlgMemo : public CDialog {
   int m_nMemoMode = 0;  // a MemoMode
   int m_nLeft = 0;      // left edge of the window in pixels of the screen; below 1: as the template
   CString m_strFile;    // path of the file
-  CString m_strText;    // the text to show; it goes into the box when the dialog starts
+  CString m_strText;    // the text to show where it isn't the file's
 
  private:
   void OnInitDialog() override;
+  CString Text() const;
 };
 
 }  // namespace orreryui

@@ -123,6 +123,25 @@ TEST_F(ViewersTest, WhatCannotBeReadIsEmpty) {
   }
 }
 
+TEST_F(ViewersTest, BothBoxesHaveAScrollBarAtAllTimes) {
+  const auto has_scroll_bar = [](int id) {
+    return [id](DialogSession& session) -> std::string {
+      for (int i = 0; i < session.ControlCount(); ++i) {
+        const ControlView view = session.Control(i);
+        if (view.id == id && view.tall_scroll_bar) return "";
+      }
+      return "no scroll bar";
+    };
+  };
+  ScriptFrontEnd script;
+  script.OpensDialog(152).Does(has_scroll_bar(1050)).Escape();
+  script.OpensDialog(133).Does(has_scroll_bar(101)).Escape();
+  ScopedFrontEnd scope(&script);
+  OnTextDisplayDaialog("", "", "");
+  OnMemoDisplay(0, 0, "", "");
+  EXPECT_EQ(script.Failures(), "");
+}
+
 TEST_F(ViewersTest, AnyOtherModeShowsTheTextOfTheCaller) {
   folder.Write(kFile, "a\n999\nb");
   const std::string text = "メモ|%s\n999\r\n";
