@@ -24,10 +24,10 @@ void StaticBinder::Arrange(const ControlView& view, const DialogScale& scale) {
   const QString text = FromLines(view.text);
   const QFont font = label_->font();
   const bool fits = NeededSize(text, font, label_->size()) == label_->size();
-  const QString shown = fits ? text : Shortened(text, font, label_->size());
+  // The label would break at blanks alone, which a path doesn't have.
+  const QString shown =
+      fits ? BreakLines(text, font, label_->width()) : Shortened(text, font, label_->size());
   if (label_->text() != shown) label_->setText(shown);
-  // Text that wraps takes longer to draw.
-  label_->setWordWrap(fits && TextSize(text, font).width() > label_->width());
   label_->setToolTip(fits ? QString() : text.toHtmlEscaped());
   label_->setAccessibleName(fits ? QString() : text);
 }

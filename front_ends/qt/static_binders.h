@@ -9,7 +9,8 @@
 
 namespace orreryui {
 
-// Plain text. Where its rectangle can't hold it the label shows the beginning, and a tool tip all.
+// Plain text. Where its rectangle can't hold it the label leaves a part out, and a tool tip shows
+// all.
 class StaticBinder : public ControlBinder {
  public:
   explicit StaticBinder(const BinderPlace& place);

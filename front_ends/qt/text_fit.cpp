@@ -96,9 +96,9 @@ QString Shortened(const QString& text, const QFont& font, QSize size) {
   QStringList lines = BreakLines(text, font, size.width()).split(QLatin1Char('\n'));
   const qsizetype last = std::max(1, size.height() / LineHeight(font)) - 1;
   if (last + 1 >= lines.size()) return lines.join(QLatin1Char('\n'));
-  const QString rest = lines.mid(last).join(QLatin1Char(' '));
+  const QString rest = lines.mid(last).join(QString());
   lines.resize(last);
-  lines << QFontMetrics(font).elidedText(rest, Qt::ElideRight, size.width());
+  lines << QFontMetrics(font).elidedText(rest, Qt::ElideMiddle, size.width());
   return lines.join(QLatin1Char('\n'));
 }
 

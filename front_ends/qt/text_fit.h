@@ -23,8 +23,8 @@ int LineHeight(const QFont& font);
 // that is larger in the direction that would help.
 QSize NeededSize(const QString& text, const QFont& font, QSize offered);
 
-// The beginning of a text that `size` can't hold: as many whole lines as there is height for, one
-// at least, with an ellipsis at the end.
+// What can be shown of a text that `size` can't hold: as many lines as there is height for, one at
+// least, with an ellipsis in the middle of the last one, so that a path keeps its file's name.
 QString Shortened(const QString& text, const QFont& font, QSize size);
 
 }  // namespace orreryui
