@@ -20,9 +20,14 @@ class LongTextTest : public testing::Test {
  protected:
   LongTextTest() {
     EXPECT_TRUE(file_.open());
-    for (int line = 0; line < kLines; ++line) {
-      file_.write(QByteArray::number(line) + " line of a long text\r\n");
-    }
+    Write(" line of a long text\r\n");
+  }
+
+  // Fills the file with kLines lines: their numbers, and this text behind each.
+  void Write(const QByteArray& text) {
+    file_.resize(0);
+    file_.seek(0);
+    for (int line = 0; line < kLines; ++line) file_.write(QByteArray::number(line) + text);
     file_.flush();
   }
 
@@ -86,6 +91,23 @@ TEST_F(LongTextTest, TheScrollBarGoesThroughTheWholeTextAndTheDocumentHoldsAPart
     Settle();
     const QPoint last(4, edit_->viewport()->height() - 4);
     EXPECT_EQ(edit_->cursorForPosition(last).block().text(), QString());
+  });
+}
+
+TEST_F(LongTextTest, ACarriageReturnInALineLeavesEveryLineInReach) {
+  Write(" line\r of two blocks\r\n");
+  Visit([&] {
+    edit_->setFocus();
+    for (const int line : {70000, 300}) {
+      Bar()->setValue(line);
+      Settle();
+      EXPECT_TRUE(edit_->toPlainText().contains(QStringLiteral("\n%1 line").arg(line)));
+    }
+    Press(Qt::Key_End, Qt::ControlModifier);
+    EXPECT_TRUE(edit_->toPlainText().contains(QStringLiteral("\n%1 line").arg(kLines - 1)));
+    EXPECT_TRUE(edit_->textCursor().atEnd());
+    Press(Qt::Key_Home, Qt::ControlModifier);
+    EXPECT_EQ(TopLine(), 0);
   });
 }
 
