@@ -88,7 +88,11 @@ TEST_F(AlbumUpdateTest, OkReadsTheFourBoxesOfThePointAndNoOther) {
   script.OpensDialog(147).ShowsTitle("  アルバムデータの更新");
   script.Shows(129, "鎌倉").Shows(130, "寺 社").Shows(132, "35.3").Shows(1000, "139.5");
   script.Does([](DialogSession& dialog) -> std::string {
-    return dialog.Layout().focus == 106 ? "" : "the focus is elsewhere";
+    const DialogLayout layout = dialog.Layout();
+    if (layout.placement != Placement::kAtPosition || layout.x != 340 || layout.y != 20) {
+      return "the place is another";
+    }
+    return layout.focus == 106 ? "" : "the focus is elsewhere";
   });
   script.Type(129, "a|b").Type(130, "").Type(132, "1").Type(1000, "2").Pick(128, 0);
   for (const int id : {106, 104, 105, 101}) script.Type(id, "dropped");
@@ -125,7 +129,7 @@ TEST_F(AlbumUpdateTest, ARowShowsItsFieldsAndThePreviewItsText) {
   script.Type(105, "elsewhere").Click(114).OpensDialog(133).Shows(102, path);
   script.Shows(101, "=====   =====\r\nmain\r\n999\r\n\r\n").Click(1);
   script.Pick(128, 1).Shows(131, "2/6").Shows(106, "a").Shows(104, "").Shows(105, "");
-  script.Shows(101, "写真.Bmp").Click(114);
+  script.Shows(101, "写真.Bmp").Shows(1045, "").Click(114);
   script.Pick(128, 2).Shows(131, "3/6").Shows(106, "").Shows(104, "m");
   script.Shows(105, "n#i@t.txt").Shows(101, "p.jpg");
   script.Pick(128, 3).Shows(106, "").Shows(104, "").Shows(105, "last").Shows(101, "");
@@ -199,7 +203,7 @@ TEST_F(AlbumUpdateTest, TheEditorsChangesAreKeptAndShownAtTheNextCall) {
   const std::string editor = MakeEditor("my ed", "printf 'new 1 2 i f.txt\\n' > \"$1\"");
   ScriptFrontEnd script, next;
   script.OpensDialog(147).Pick(128, 1).Click(1076).ShowsRows(128, {"p1#i", "p2#i"});
-  script.Shows(131, "2/2").Shows(106, "p2").Escape();
+  script.Shows(131, "2/2").Shows(106, "p2").Pick(128, 0).Shows(106, "p1").Escape();
   EXPECT_EQ(Call(script, 7, "old", editor), "");
   EXPECT_EQ(folder.Read(kAlbum), "new 1 2 i f.txt\n");
   next.OpensDialog(147).ShowsRows(128, {"new#i"}).Escape();
@@ -213,6 +217,10 @@ TEST_F(AlbumUpdateTest, NoShellReadsThePathOfTheAlbum) {
     ScriptFrontEnd script;
     script.OpensDialog(147).Click(1076).Escape();
     CallWith(script, 7, "old", folder.Argument() + name.c_str(), editor);
+    EXPECT_EQ(folder.Read(name), "p edited");
+    ScriptFrontEnd without;
+    without.OpensDialog(147).Click(1076).Shows(131, "1件").Escape();
+    CallWith(without, 7, "old", folder.Argument() + name.c_str(), PathOf("no editor"));
     EXPECT_EQ(folder.Read(name), "p edited");
   }
   EXPECT_FALSE(std::filesystem::exists("x"));
