@@ -65,7 +65,8 @@ ORRERYUI_EXPORT CString OnMapTypeSet(int palette, int kind, int fill, int coast,
 //
 //   selected           the number of the palette chosen so far: its line in the list, from 0. Comes
 //                      back unchanged if the list has no such line and the user picks none.
-//   editor             the command of the text editor; the palette file's path is put behind it
+//   editor             the command of the text editor; a blank and the palette file's path go
+//                      behind it. Nothing is started if all has more than 299 bytes.
 //   folder             the folder of the palettes, with its separator
 //   sea_colour         not used: the sea is part of the palette
 //   lake_colour        the colours of lakes and of the map's background, 0x00BBGGRR
@@ -110,8 +111,8 @@ ORRERYUI_EXPORT CString OnDLLAlbumRegist(int code, CString longitude, CString la
 //   album_file           full path of the album file
 //   place, item          name and item of the album's point
 //   longitude, latitude  of the point, as text
-//   editor               the command that starts the editor; the path of the album file goes
-//                        behind it
+//   editor               the command that starts the editor; a blank and the path of the album
+//                        file go behind it. Nothing is started if all has more than 299 bytes.
 //
 // Returns, by the user's decision:
 //
@@ -139,7 +140,8 @@ ORRERYUI_EXPORT CString OnAlbumUpdate(int code, CString state, CString album_fil
 ORRERYUI_EXPORT CString OnDataSourceSet(int selected, CString common_area, CString folder);
 
 // Shows the main text of a text file: its lines up to the first one that reads 999. The user may
-// type into the text, but nothing is written. A file that can't be read shows as an empty one.
+// type into the text, but nothing is written. A file that can't be read shows as an empty one, and a
+// line of more than 3198 bytes as several.
 //
 //   file            path of the text file, in code page 932
 //   title1, title2  the caption, with a blank between them
@@ -149,7 +151,7 @@ ORRERYUI_EXPORT void OnTextDisplayDaialog(CString file, CString title1, CString 
 // that can't be read shows as an empty one.
 //
 //   mode  1: the memo of the file, that is its lines behind the first one that reads 999
-//         2: a preview, its first 16 lines
+//         2: a preview, its first 16 lines. In both a line of equal signs stands above.
 //         any other number: `text`, and no file is read
 //   left  left edge of the window on the screen, in pixels as windows are placed there; the window
 //         then opens 560 pixels below the screen's upper edge, or higher if it wouldn't fit. 0 and
