@@ -138,7 +138,12 @@ QRect QtDialog::AvailableArea() const {
 void QtDialog::Place() {
   placed_ = session_.Layout();
   QRect area = AvailableArea();
-  const auto frame = [area](const QWindow* on) { return on ? on->frameGeometry() : area; };
+  // A dialog stays on the screen of the window that it stands before.
+  const auto frame = [&area](const QWindow* before) {
+    if (before == nullptr) return area;
+    area = before->screen()->availableGeometry();
+    return before->frameGeometry();
+  };
   QRect window(QPoint(), size());
   switch (placed_.placement) {
     case Placement::kAtPosition:
