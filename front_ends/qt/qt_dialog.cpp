@@ -67,8 +67,17 @@ void QtDialog::Build() {
   pane_ = new ControlPane(session_, *this, this);
   pane_->Build();
   scale_ = DialogScale::Of(font());
-  most_ = {scale_.x * kMostGrowth, scale_.y * kMostGrowth};
+  LimitGrowth();
   Arrange();
+}
+
+// A dialog that fits into the screen doesn't grow beyond it.
+void QtDialog::LimitGrowth() {
+  const DialogLayout layout = session_.Layout();
+  const QPoint corner = scale_.ToPixels(layout.width, layout.height);
+  const QSize room = Room();
+  most_ = {scale_.x * std::clamp(double(room.width()) / corner.x(), 1.0, kMostGrowth),
+           scale_.y * std::clamp(double(room.height()) / corner.y(), 1.0, kMostGrowth)};
 }
 
 void QtDialog::Arrange() {
@@ -91,7 +100,7 @@ void QtDialog::GrowToFit() {
 }
 
 void QtDialog::FitIntoScreen(QSize size) {
-  const QSize room = AvailableArea().size() - kWindowFrame;
+  const QSize room = Room();
   if (size.width() <= room.width() && size.height() <= room.height() && scroll_area_ == nullptr) {
     setFixedSize(size);
     return;
@@ -134,6 +143,8 @@ QRect QtDialog::AvailableArea() const {
   if (screen == nullptr) screen = QGuiApplication::primaryScreen();
   return screen->availableGeometry();
 }
+
+QSize QtDialog::Room() const { return AvailableArea().size() - kWindowFrame; }
 
 void QtDialog::Place() {
   placed_ = session_.Layout();

@@ -41,6 +41,7 @@ class QtDialog : public QDialog, public DialogWindow, private PaneFrame {
 
   void Build();
   void Arrange();
+  void LimitGrowth();
   void GrowToFit();
   void FitIntoScreen(QSize size);
   void OrderTabs();
@@ -49,6 +50,7 @@ class QtDialog : public QDialog, public DialogWindow, private PaneFrame {
   void StayOnScreen();
   const QWindow* HostWindow() const;  // that the outermost dialog stands before, or null
   QRect AvailableArea() const;
+  QSize Room() const;  // for a dialog inside a frame in that area
   void Paint();
 
   DialogSession& session_;

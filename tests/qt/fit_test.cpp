@@ -8,6 +8,8 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QScreen>
+#include <QScrollArea>
 #include <QStyle>
 #include <QTest>
 
@@ -115,6 +117,18 @@ TEST(Fit, TextThatOverflowsLosesItsMiddle) {
     EXPECT_TRUE(label.text().endsWith("終")) << "the last name of a path stays";
     EXPECT_EQ(label.toolTip().toStdString(), text);
     EXPECT_EQ(label.accessibleName().toStdString(), text);
+  });
+}
+
+TEST(Fit, ADialogThatFitsIntoTheScreenDoesNotGrowBeyondIt) {
+  FakeSession session;
+  const int screen = QGuiApplication::primaryScreen()->availableSize().width();
+  session.layout.width = screen * 5 / 12;
+  session.Add(ControlKind::kStatic, 1, std::string(1000, 'x'), 8).place.width = screen / 3;
+  RunWithUser(session, [&](QDialog& window) {
+    EXPECT_LE(window.width(), screen);
+    EXPECT_EQ(window.findChild<QScrollArea*>(), nullptr);
+    ExpectShortened(ControlWidget<QLabel>(window, 1), 1);
   });
 }
 
