@@ -7,8 +7,8 @@
 namespace orreryui {
 
 // Beeps and lets the user choose a file that exists. The name field starts with `start_name`, and a
-// name that has no extension and isn't there gets `default_extension`. `filter` is what the user can
-// narrow the list to beside all files: a label, a vertical bar and a pattern, such as
+// name that has no extension and isn't there gets `default_extension`. `filter` is what the user
+// can narrow the list to beside all files: a label, a vertical bar and a pattern, such as
 // "text (*.txt)|*.txt". All are in code page 932.
 //
 // Returns the full path in lower case, or the empty string if the user gave up. A file whose path

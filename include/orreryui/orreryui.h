@@ -140,8 +140,8 @@ ORRERYUI_EXPORT CString OnAlbumUpdate(int code, CString state, CString album_fil
 ORRERYUI_EXPORT CString OnDataSourceSet(int selected, CString common_area, CString folder);
 
 // Shows the main text of a text file: its lines up to the first one that reads 999. The user may
-// type into the text, but nothing is written. A file that can't be read shows as an empty one, and a
-// line of more than 3198 bytes as several.
+// type into the text, but nothing is written. A file that can't be read shows as an empty one, and
+// a line of more than 3198 bytes as several.
 //
 //   file            path of the text file, in code page 932
 //   title1, title2  the caption, with a blank between them

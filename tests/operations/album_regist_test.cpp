@@ -78,7 +78,9 @@ TEST_F(AlbumRegistTest, EachAdditionIsInTheFileAtOnce) {
   script.Click(1047);
   EXPECT_EQ(Call(), kGivenUp);
   const std::string lines =
-      "大仏 35.0 135.0 高徳院 C:\\A B.txt\r\nm1 35.5 135.0  表.JPG t.txt\r\nm 1 35.5 135.0 m2 p.gif\r\n"_sj;
+      "大仏 35.0 135.0 高徳院 C:\\A B.txt\r\n"
+      "m1 35.5 135.0  表.JPG t.txt\r\n"
+      "m 1 35.5 135.0 m2 p.gif\r\n"_sj;
   EXPECT_EQ(before_the_end, lines);
   EXPECT_EQ(folder.Read(kAlbum), lines);
 
