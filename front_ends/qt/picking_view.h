@@ -13,8 +13,9 @@ namespace orreryui {
 // Selects a row of the view and scrolls to it, if it isn't the selected one. -1 selects none.
 void SelectRow(QAbstractItemView* view, int row);
 
-// A list or tree widget. A pick is reported when the mouse button comes up, also on the row that
-// was selected already, and when a key has changed the row.
+// A list or tree widget. A pick is reported when the left mouse button, which went down on a row,
+// comes up, also on the row that was selected already, and when a key has changed the row. Nothing
+// else changes which row is selected.
 template <class View>
 class PickingView : public View {
  public:
@@ -43,23 +44,27 @@ class PickingView : public View {
 
  protected:
   void mousePressEvent(QMouseEvent* event) override {
-    pressed_ = event->button() == Qt::LeftButton && this->indexAt(event->pos()).isValid();
+    if (!IsLeftOnRow(*event)) return;
+    pressed_ = true;
     View::mousePressEvent(event);
   }
 
+  void mouseMoveEvent(QMouseEvent* event) override {
+    if (pressed_) View::mouseMoveEvent(event);
+  }
+
   void mouseDoubleClickEvent(QMouseEvent* event) override {
+    if (!IsLeftOnRow(*event)) return;
+    const QModelIndex index = this->indexAt(event->pos());
     View::mouseDoubleClickEvent(event);
     pressed_ = false;
-    const QModelIndex index = this->indexAt(event->pos());
-    if (event->button() == Qt::LeftButton && index.isValid()) {
-      on_double_click(index.row(), index.column());
-    }
+    on_double_click(index.row(), index.column());
   }
 
   void mouseReleaseEvent(QMouseEvent* event) override {
-    View::mouseReleaseEvent(event);
     if (!pressed_ || event->button() != Qt::LeftButton) return;
     pressed_ = false;
+    View::mouseReleaseEvent(event);
     if (this->currentIndex().isValid()) on_pick(this->currentIndex().row());
   }
 
@@ -76,6 +81,10 @@ class PickingView : public View {
   }
 
  private:
+  bool IsLeftOnRow(const QMouseEvent& event) const {
+    return event.button() == Qt::LeftButton && this->indexAt(event.pos()).isValid();
+  }
+
   static bool IsMove(int key) {
     return key == Qt::Key_Up || key == Qt::Key_Down || key == Qt::Key_Home || key == Qt::Key_End ||
            key == Qt::Key_PageUp || key == Qt::Key_PageDown;
@@ -87,7 +96,7 @@ class PickingView : public View {
     return rows.isEmpty() ? -1 : rows.front().row();
   }
 
-  bool pressed_ = false;  // the left button, on a row
+  bool pressed_ = false;  // the left button went down on a row
 };
 
 using PickingList = PickingView<QListWidget>;
