@@ -74,6 +74,7 @@ void DialogRun::Start(DialogWindow& window) {
   Initialise();
   // It may have hidden or disabled that control.
   if (focus_run_ == this && Target(Model().At(focus_).id) < 0) FocusFirstControl();
+  if (focus_run_ == this) FocusCheckedButton();
 }
 
 void DialogRun::Initialise() {
@@ -88,6 +89,15 @@ void DialogRun::FocusFirstControl() {
     focus_run_ = this;
     focus_ = index;
     return;
+  }
+}
+
+// Of radio buttons the one that is on has the focus when the dialog opens.
+void DialogRun::FocusCheckedButton() {
+  if (Model().At(focus_).kind != ControlKind::kRadioButton) return;
+  const auto [first, last] = Model().RadioGroup(focus_);
+  for (int i = first; i <= last; ++i) {
+    if (Model().At(i).checked && Target(Model().At(i).id) >= 0) focus_ = i;
   }
 }
 

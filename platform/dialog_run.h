@@ -64,6 +64,7 @@ class DialogRun : public DialogSession {
   void SelectRow(int index, int row);
   void Refresh();
   void FocusFirstControl();
+  void FocusCheckedButton();
 
   CDialog& dialog_;
   DialogWindow* window_ = nullptr;

@@ -1,6 +1,7 @@
 #include "front_ends/qt/button_binders.h"
 
 #include <QCheckBox>
+#include <QKeyEvent>
 #include <QRadioButton>
 #include <QStyle>
 
@@ -26,6 +27,42 @@ class WholeButton : public Button {
  protected:
   bool hitButton(const QPoint& place) const override { return this->rect().contains(place); }
 };
+
+// A radio button whose arrow keys go round its group in tab order, and turn on what they reach.
+class RadioButton : public WholeButton<QRadioButton> {
+ public:
+  using WholeButton<QRadioButton>::WholeButton;
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override {
+    const int step = StepOf(event->key());
+    if (step == 0) return QRadioButton::keyPressEvent(event);
+    const QList<QAbstractButton*> buttons = group()->buttons();
+    const qsizetype count = buttons.size();
+    for (qsizetype i = 1; i < count; ++i) {
+      QAbstractButton* const other = buttons[(buttons.indexOf(this) + step * i + count) % count];
+      if (!other->isEnabled() || !other->isVisible()) continue;
+      other->setFocus(Qt::TabFocusReason);
+      return other->click();
+    }
+  }
+
+ private:
+  static int StepOf(int key) {
+    if (key == Qt::Key_Right || key == Qt::Key_Down) return 1;
+    return key == Qt::Key_Left || key == Qt::Key_Up ? -1 : 0;
+  }
+};
+
+// The tab key goes to the button that is on, or to the first one.
+void SetTabStop(const QButtonGroup& group) {
+  const QList<QAbstractButton*> buttons = group.buttons();
+  const QAbstractButton* const stop =
+      group.checkedButton() != nullptr ? group.checkedButton() : buttons.front();
+  for (QAbstractButton* button : buttons) {
+    button->setFocusPolicy(button == stop ? Qt::StrongFocus : Qt::ClickFocus);
+  }
+}
 
 }  // namespace
 
@@ -80,7 +117,7 @@ QSize PushButtonBinder::Surroundings() const {
 }
 
 RadioButtonBinder::RadioButtonBinder(const BinderPlace& place, QButtonGroup* group)
-    : ButtonBinder(place, new WholeButton<QRadioButton>(place.parent)) {
+    : ButtonBinder(place, new RadioButton(place.parent)) {
   group->addButton(static_cast<QRadioButton*>(widget()));
 }
 
@@ -90,6 +127,7 @@ void RadioButtonBinder::ShowState(const ControlView& view) {
   group->setExclusive(false);
   ButtonBinder::ShowState(view);
   group->setExclusive(true);
+  SetTabStop(*group);
 }
 
 QSize RadioButtonBinder::Surroundings() const {

@@ -133,6 +133,20 @@ TEST_F(MapTypeTest, NumbersThatNoListHoldsComeBackUnchanged) {
   }
 }
 
+TEST_F(MapTypeTest, TheChosenKindHasTheFocus) {
+  for (const int kind : {1, 2, 3, 0}) {
+    ScriptFrontEnd visit;
+    visit.OpensDialog(159).Does([kind](DialogSession& session) -> std::string {
+      const int expected = kind == 0 ? kTopographic : kTopographic + kind - 1;
+      return session.Layout().focus == expected ? "" : "the focus is elsewhere";
+    });
+    visit.Escape();
+    ScopedFrontEnd scope(&visit);
+    OnMapTypeSet(0, kind, 0, 0, 0, folder.Argument(), "");
+    EXPECT_EQ(visit.Failures(), "") << kind;
+  }
+}
+
 TEST_F(MapTypeTest, PaletteAndTintFollowEachOther) {
   ShowsBlank();
   script.Pick(kPalette, 2).Shows(kMethod, "段彩(高度 50m間隔)");

@@ -118,7 +118,43 @@ TEST_F(RadioButtons, FormGroupsForTheMouseAndTheArrowKeys) {
     session_.Take();
     QTest::keyClick(window.focusWidget(), Qt::Key_Up);
     EXPECT_EQ(Checked(window), "1001");
-    EXPECT_THAT(session_.Take(), ElementsAre("click 1"));
+    EXPECT_THAT(session_.Take(), ElementsAre("focus 1", "click 1"));
+  });
+}
+
+TEST_F(RadioButtons, ArrowKeysTurnOnWhatTheyReachFromWhereverTheFocusIs) {
+  session_.At(2).starts_group = false;
+  session_.At(3).starts_group = false;
+  session_.At(3).enabled = false;
+  session_.layout.focus = 2;  // which is off
+  const std::pair<Qt::Key, std::string> cases[] = {
+      {Qt::Key_Right, "4"}, {Qt::Key_Down, "1"}, {Qt::Key_Left, "4"}, {Qt::Key_Up, "2"}};
+  RunWithUser(session_, [&](QDialog& window) {
+    for (const auto& [key, id] : cases) {
+      QTest::keyClick(window.focusWidget(), key);
+      EXPECT_THAT(session_.Take(), ElementsAre("focus " + id, "click " + id));
+      EXPECT_EQ(window.focusWidget()->objectName().toStdString(), id);
+    }
+  });
+}
+
+TEST_F(RadioButtons, TheTabKeyGoesToTheButtonThatIsOn) {
+  session_.layout.focus = 9;
+  RunWithUser(session_, [&](QDialog& window) {
+    const auto tab_goes_to = [&](const char* id) {
+      QTest::keyClick(window.focusWidget(), Qt::Key_Tab);
+      EXPECT_EQ(window.focusWidget()->objectName(), id);
+    };
+    session_.Change(1, [](ControlView& view) { view.checked = false; });
+    session_.Change(2, [](ControlView& view) { view.checked = true; });
+    tab_goes_to("2");
+    tab_goes_to("4");
+    tab_goes_to("9");
+    session_.Change(2, [](ControlView& view) { view.checked = false; });
+    tab_goes_to("1");
+    session_.Change(3, [](ControlView& view) { view.checked = true; });
+    session_.Change(4, [](ControlView& view) { view.checked = false; });
+    tab_goes_to("3");
   });
 }
 
