@@ -4,6 +4,7 @@
 #include <QCompleter>
 #include <QScrollBar>
 #include <QVBoxLayout>
+#include <QWheelEvent>
 
 #include "front_ends/qt/list_rows.h"
 #include "front_ends/qt/widget_text.h"
@@ -11,12 +12,25 @@
 namespace orreryui {
 namespace {
 
+// A combo box that takes the mouse wheel only while it has the focus, so that a list that the user
+// scrolls past it changes nothing in it.
+class DropDown : public QComboBox {
+ public:
+  using QComboBox::QComboBox;
+
+ protected:
+  void wheelEvent(QWheelEvent* event) override {
+    if (hasFocus()) return QComboBox::wheelEvent(event);
+    event->ignore();
+  }
+};
+
 // A combo box with an edit field, made ready before anything is bound to that field.
 QComboBox* MakeCombo(QWidget* parent) {
   // A combo box gives its field a completer, at some cost, unless the field has one already.
   static auto* const no_completer = new QCompleter;
-  auto* combo = new QComboBox(parent);
-  auto* line = new QLineEdit(combo);
+  auto* combo = new DropDown(parent);
+  auto* line = new LineField(combo);
   line->setCompleter(no_completer);
   combo->setLineEdit(line);
   combo->setCompleter(nullptr);
@@ -33,6 +47,7 @@ DropDownBinder::DropDownBinder(const BinderPlace& place)
     : ControlBinder(place), combo_(MakeCombo(place.parent)), line_(combo_->lineEdit(), place.id) {
   QObject::connect(combo_, &QComboBox::activated, combo_, [this](int row) {
     Run([this, row](DialogSession& session) { session.Pick(id(), row); });
+    combo_->lineEdit()->setCursorPosition(0);
   });
   QObject::connect(combo_->lineEdit(), &QLineEdit::textEdited, combo_, [this] {
     line_.Report([this](const GestureRunner::Gesture& gesture) { Run(gesture); });
@@ -71,7 +86,7 @@ QSize DropDownBinder::Needed(const ControlView&, QSize offered) const {
 SimpleComboBinder::SimpleComboBinder(const BinderPlace& place)
     : ControlBinder(place),
       frame_(new QWidget(place.parent)),
-      edit_(new QLineEdit(frame_)),
+      edit_(new LineField(frame_)),
       list_(new PickingList(frame_)),
       line_(edit_, place.id) {
   edit_->setObjectName(QStringLiteral("edit"));

@@ -80,6 +80,38 @@ TEST(Lists, AKeyPicksTheFirstRowWhereNoneIsSelected) {
   }
 }
 
+TEST(Lists, OnlyTheLeftButtonOnARowSelects) {
+  for (const ControlKind kind : {ControlKind::kListBox, ControlKind::kReportList}) {
+    FakeSession session;
+    ControlView& added = session.Add(kind, 1, {}, 120);
+    added.columns = {{"名称", 80}};
+    added.rows = {{"a"}, {"b"}, {"c"}};
+    added.selection = 1;
+    RunWithUser(session, [&](QDialog& window) {
+      auto& view = ControlWidget<QAbstractItemView>(window, 1);
+      QWidget* const area = view.viewport();
+      const auto row = [&](int number) {
+        return view.visualRect(view.model()->index(number, 0)).center();
+      };
+      const QPoint below(10, area->height() - 3);
+      ASSERT_FALSE(view.indexAt(below).isValid());
+      QTest::mouseClick(area, Qt::RightButton, {}, row(2));
+      QTest::mouseClick(area, Qt::MiddleButton, {}, row(2));
+      QTest::mouseDClick(area, Qt::RightButton, {}, row(2));
+      QTest::mouseClick(area, Qt::LeftButton, {}, below);
+      QTest::mouseDClick(area, Qt::LeftButton, {}, below);
+      QTest::mousePress(area, Qt::LeftButton, {}, below);
+      QTest::mouseMove(area, row(2));
+      QTest::mouseRelease(area, Qt::LeftButton, {}, row(2));
+      EXPECT_THAT(session.Take(), testing::Each(testing::StartsWith("focus")));
+      const QModelIndexList selected = view.selectionModel()->selectedRows();
+      ASSERT_EQ(selected.size(), 1);
+      EXPECT_EQ(selected.front().row(), 1);
+      EXPECT_EQ(view.currentIndex().row(), 1);
+    });
+  }
+}
+
 TEST(Lists, DoubleClickComesAfterPick) {
   FakeSession session;
   AddList(session, ControlKind::kListBox);
@@ -152,6 +184,27 @@ TEST(Combos, PopupPicksAlsoTheSelectedRow) {
     }
     EXPECT_THAT(session.Take(), ElementsAre("pick 1 1", "pick 1 2"));
     EXPECT_EQ(combo.currentText(), "gamma");
+  });
+}
+
+TEST(Combos, TheWheelTurnsOnlyTheBoxThatHasTheFocus) {
+  FakeSession session;
+  AddList(session, ControlKind::kComboBox).selection = 0;
+  session.Add(ControlKind::kPushButton, 2, "次");
+  session.layout.focus = 2;
+  RunWithUser(session, [&](QDialog& window) {
+    auto& combo = ControlWidget<QComboBox>(window, 1);
+    const auto turn = [&] {
+      QWheelEvent down(QPointF(5, 5), combo.mapToGlobal(QPointF(5, 5)), {}, {0, -120}, {}, {},
+                       Qt::NoScrollPhase, false);
+      QApplication::sendEvent(&combo, &down);
+    };
+    turn();
+    EXPECT_EQ(combo.currentIndex(), 0);
+    EXPECT_THAT(session.Take(), ElementsAre());
+    combo.setFocus();
+    turn();
+    EXPECT_THAT(session.Take(), ElementsAre("focus 1", "pick 1 1"));
   });
 }
 
