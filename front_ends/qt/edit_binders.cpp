@@ -27,10 +27,18 @@ void Align(QTextDocument& document, Qt::Alignment alignment) {
 
 }  // namespace
 
+void LineField::focusInEvent(QFocusEvent* event) {
+  QLineEdit::focusInEvent(event);
+  const int length = int(text().size());
+  if (hasSelectedText() && selectionLength() == length) setSelection(length, -length);
+}
+
 TypedLine::TypedLine(QLineEdit* edit, int id) : edit_(edit), id_(id) {}
 
 void TypedLine::Show(const QString& text) {
-  if (!typing_ && edit_->text() != text) edit_->setText(text);
+  if (typing_ || edit_->text() == text) return;
+  edit_->setText(text);
+  edit_->setCursorPosition(0);
 }
 
 void TypedLine::Report(const std::function<void(const GestureRunner::Gesture&)>& run) {
@@ -50,7 +58,7 @@ void TypedLine::Report(const std::function<void(const GestureRunner::Gesture&)>&
 }
 
 LineEditBinder::LineEditBinder(const BinderPlace& place)
-    : ControlBinder(place), edit_(new QLineEdit(place.parent)), line_(edit_, place.id) {
+    : ControlBinder(place), edit_(new LineField(place.parent)), line_(edit_, place.id) {
   QObject::connect(edit_, &QLineEdit::textEdited, edit_, [this] {
     line_.Report([this](const GestureRunner::Gesture& gesture) { Run(gesture); });
   });

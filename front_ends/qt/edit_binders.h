@@ -9,6 +9,16 @@
 
 namespace orreryui {
 
+// A line edit that shows the beginning of a text that is too long for it, also when the tab key
+// selects it.
+class LineField : public QLineEdit {
+ public:
+  using QLineEdit::QLineEdit;
+
+ protected:
+  void focusInEvent(QFocusEvent* event) override;
+};
+
 // A line edit as part of a control: reports what is typed, and leaves out of the box what the
 // session refuses. Edit boxes and the edit fields of combo boxes share it.
 class TypedLine {

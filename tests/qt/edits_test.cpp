@@ -116,6 +116,28 @@ TEST(Edits, EnterBreaksTheLineAtTheCursorWhateverKeysAreHeld) {
   }
 }
 
+TEST(Edits, ALongTextShowsItsBeginning) {
+  const std::string text(200, 'x');
+  FakeSession session;
+  session.Add(ControlKind::kPushButton, 1, "OK");
+  session.Add(kLine, 2, text);
+  for (int id : {3, 4}) {
+    ControlView& combo =
+        session.Add(id == 3 ? ControlKind::kComboBox : ControlKind::kSimpleComboBox, id, text, 60);
+    combo.rows = {{text}};
+    combo.selection = -1;
+  }
+  RunWithUser(session, [&](QDialog& window) {
+    const QList<QLineEdit*> fields = window.findChildren<QLineEdit*>();
+    ASSERT_EQ(fields.size(), 3);
+    for (QLineEdit* field : fields) EXPECT_EQ(field->cursorPosition(), 0);
+    for (int tabs = 0; tabs < 3; ++tabs) QTest::keyClick(window.focusWidget(), Qt::Key_Tab);
+    for (QLineEdit* field : fields) EXPECT_EQ(field->cursorPosition(), 0);
+    EXPECT_EQ(ControlWidget<QWidget>(window, 4).findChild<QLineEdit*>()->selectedText().size(),
+              200);
+  });
+}
+
 TEST(Edits, NoBreakSpacesStay) {
   for (ControlKind kind : {kLine, kLines}) {
     FakeSession session;
