@@ -12,7 +12,6 @@
 
 #include "front_ends/qt/display_probe.h"
 #include "front_ends/qt/display_servers.h"
-#include "front_ends/qt/japanese_labels.h"
 #include "front_ends/qt/process_state.h"
 
 namespace orreryui {
@@ -48,12 +47,11 @@ void MakeApplication(const QByteArray& platform) {
   QApplication::setQuitOnLastWindowClosed(false);
   // The font library reads its language once, when it first looks for a glyph.
   QFontMetrics(QApplication::font()).horizontalAdvance(QStringLiteral("直"));
-  auto* labels = new QTranslator(application);
-  if (!labels->load(QStringLiteral("qtbase_ja"),
-                    QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
-    labels = new JapaneseLabels(application);
+  auto* const labels = new QTranslator(application);
+  if (labels->load(QStringLiteral("qtbase_ja"),
+                   QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
+    QCoreApplication::installTranslator(labels);
   }
-  QCoreApplication::installTranslator(labels);
 }
 
 // Qt ends the process when it next looks at a connection that has broken.

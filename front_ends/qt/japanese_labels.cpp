@@ -1,5 +1,8 @@
 #include "front_ends/qt/japanese_labels.h"
 
+#include <QCoreApplication>
+#include <QPointer>
+#include <QTranslator>
 #include <string_view>
 
 namespace orreryui {
@@ -48,6 +51,20 @@ constexpr Label kLabels[] = {
     {"QFileSystemModel", "Type", u"種類"},
     {"QFileSystemModel", "Kind", u"種類"},
     {"QFileSystemModel", "Date Modified", u"更新日時"},
+    {"QLineEdit", "&Undo", u"元に戻す"},
+    {"QLineEdit", "&Redo", u"やり直す"},
+    {"QLineEdit", "Cu&t", u"切り取り"},
+    {"QLineEdit", "&Copy", u"コピー"},
+    {"QLineEdit", "&Paste", u"貼り付け"},
+    {"QLineEdit", "Delete", u"削除"},
+    {"QLineEdit", "Select All", u"すべて選択"},
+    {"QWidgetTextControl", "&Undo", u"元に戻す"},
+    {"QWidgetTextControl", "&Redo", u"やり直す"},
+    {"QWidgetTextControl", "Cu&t", u"切り取り"},
+    {"QWidgetTextControl", "&Copy", u"コピー"},
+    {"QWidgetTextControl", "&Paste", u"貼り付け"},
+    {"QWidgetTextControl", "Delete", u"削除"},
+    {"QWidgetTextControl", "Select All", u"すべて選択"},
     {"QPlatformTheme", "OK", u"OK"},
     {"QPlatformTheme", "&Open", u"開く"},
     {"QPlatformTheme", "&Save", u"保存"},
@@ -56,15 +73,41 @@ constexpr Label kLabels[] = {
     {"QPlatformTheme", "&No", u"いいえ"},
 };
 
+int scopes = 0;
+
+class Labels : public QTranslator {
+ public:
+  // A translator that says it is empty is asked all the same, but joins without a word to the
+  // windows of the application.
+  bool isEmpty() const override { return true; }
+
+  QString translate(const char* context, const char* source, const char*, int) const override {
+    if (scopes == 0) return {};
+    for (const Label& label : kLabels) {
+      if (label.context == context && label.source == source) {
+        return QString::fromUtf16(label.japanese);
+      }
+    }
+    return {};
+  }
+};
+
+// Installs the labels for good: to take them out would tell the windows.
+void Install() {
+  static auto& labels = *new Labels;
+  static QPointer<QCoreApplication> application;
+  if (application == QCoreApplication::instance()) return;
+  application = QCoreApplication::instance();
+  QCoreApplication::installTranslator(&labels);
+}
+
 }  // namespace
 
-QString JapaneseLabels::translate(const char* context, const char* source, const char*, int) const {
-  for (const Label& label : kLabels) {
-    if (label.context == context && label.source == source) {
-      return QString::fromUtf16(label.japanese);
-    }
-  }
-  return {};
+JapaneseLabels::JapaneseLabels() {
+  Install();
+  ++scopes;
 }
+
+JapaneseLabels::~JapaneseLabels() { --scopes; }
 
 }  // namespace orreryui

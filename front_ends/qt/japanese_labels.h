@@ -1,19 +1,18 @@
-// The Japanese labels of Qt's own choosers, where Qt's Japanese translation isn't installed.
+// The Japanese labels of Qt's own choosers, boxes and menus, whatever language the host speaks and
+// whether or not Qt's Japanese translation is installed.
 #ifndef ORRERYUI_FRONT_ENDS_QT_JAPANESE_LABELS_H_
 #define ORRERYUI_FRONT_ENDS_QT_JAPANESE_LABELS_H_
 
-#include <QTranslator>
-
 namespace orreryui {
 
-// Holds what the file and the colour chooser show; everything else keeps Qt's words.
-class JapaneseLabels : public QTranslator {
+// While one lives, Qt's labels are Japanese. They nest. There must be an application; its windows
+// aren't told, and outside of our dialogs it speaks its own language.
+class JapaneseLabels {
  public:
-  using QTranslator::QTranslator;
-
-  bool isEmpty() const override { return false; }
-  QString translate(const char* context, const char* source, const char* comment,
-                    int number) const override;
+  JapaneseLabels();
+  ~JapaneseLabels();
+  JapaneseLabels(const JapaneseLabels&) = delete;
+  JapaneseLabels& operator=(const JapaneseLabels&) = delete;
 };
 
 }  // namespace orreryui

@@ -7,6 +7,7 @@
 #include "front_ends/qt/application.h"
 #include "front_ends/qt/choosers.h"
 #include "front_ends/qt/input_block.h"
+#include "front_ends/qt/japanese_labels.h"
 #include "front_ends/qt/message_box.h"
 #include "front_ends/qt/qt_dialog.h"
 
@@ -14,6 +15,7 @@ namespace orreryui {
 
 bool QtFrontEnd::RunDialog(DialogSession& session) {
   if (!HasApplication()) return false;
+  const JapaneseLabels labels;
   QtDialog dialog(session, Innermost());
   session.Start(dialog);
   if (session.Ended()) return true;
@@ -25,16 +27,19 @@ bool QtFrontEnd::RunDialog(DialogSession& session) {
 
 MessageBoxAnswer QtFrontEnd::ShowMessage(const std::string& text) {
   if (!HasApplication()) return MessageBoxAnswer::kCancel;
+  const JapaneseLabels labels;
   return AskWarning(Innermost(), text);
 }
 
 std::optional<std::string> QtFrontEnd::ChooseFile(const FileChooserRequest& request) {
   if (!HasApplication()) return std::nullopt;
+  const JapaneseLabels labels;
   return AskFile(Innermost(), request);
 }
 
 std::optional<std::uint32_t> QtFrontEnd::ChooseColour(std::uint32_t start) {
   if (!HasApplication()) return std::nullopt;
+  const JapaneseLabels labels;
   return AskColour(Innermost(), start);
 }
 

@@ -6,6 +6,7 @@
 #include <QDialogButtonBox>
 #include <QFileDialog>
 #include <QFileSystemModel>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
@@ -194,6 +195,32 @@ TEST_F(FileChooser, ANameWithoutAFolderStartsWhereTheLastFileWasChosen) {
 }
 
 class ColourChooser : public Choosers {};
+
+// Notes whether a window is told of another language.
+class LanguageWatch : public QObject {
+ public:
+  LanguageWatch() { qApp->installEventFilter(this); }
+  bool eventFilter(QObject*, QEvent* event) override {
+    told = told || event->type() == QEvent::LanguageChange;
+    return false;
+  }
+  bool told = false;
+};
+
+TEST_F(ColourChooser, IsJapaneseInAHostThatIsNot) {
+  const LanguageWatch watch;
+  const auto red = [] { return QCoreApplication::translate("QColorDialog", "&Red:"); };
+  ThenInFront([&](QWidget& front) {
+    QStringList labels;
+    for (const QLabel* label : front.findChildren<QLabel*>()) labels << label->text();
+    EXPECT_EQ(labels.filter("赤").size(), 1);
+    EXPECT_EQ(red(), "赤:");
+    front.close();
+  });
+  front_end_.ChooseColour(0);
+  EXPECT_EQ(red(), "&Red:");
+  EXPECT_FALSE(watch.told);
+}
 
 TEST_F(ColourChooser, HandsBackTheColourWithRedInTheLowByte) {
   ThenInFront([](QWidget& front) {
