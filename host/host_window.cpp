@@ -38,6 +38,7 @@ HostWindow::HostWindow()
       purpose_(new QLabel),
       arguments_(new QFormLayout),
       strip_(new PaletteStrip),
+      call_(new QPushButton("Call the operation")),
       raw_result_(new QLabel("Not called yet")),
       fields_(new QTableWidget(0, 3)) {
   setWindowTitle("ORRERYUI sample host");
@@ -49,14 +50,13 @@ HostWindow::HostWindow()
   fields_->setHorizontalHeaderLabels({"Field", "Value", "Meaning"});
   fields_->horizontalHeader()->setStretchLastSection(true);
   fields_->verticalHeader()->hide();
-  auto* const call = new QPushButton("Call the operation");
-  call->setObjectName("call");
+  call_->setObjectName("call");
 
   auto* const right = new QVBoxLayout;
   right->addWidget(purpose_);
   right->addLayout(arguments_);
   right->addWidget(strip_);
-  right->addWidget(call, 0, Qt::AlignLeft);
+  right->addWidget(call_, 0, Qt::AlignLeft);
   right->addWidget(raw_result_);
   right->addWidget(fields_);
   auto* const left = new QVBoxLayout;
@@ -74,7 +74,7 @@ HostWindow::HostWindow()
   points_->Keep(kept_);
   connect(operations_, &QListWidget::currentRowChanged, this, &HostWindow::ShowChosen);
   connect(points_, &QListWidget::currentRowChanged, this, &HostWindow::TakePoint);
-  connect(call, &QPushButton::clicked, this, &HostWindow::CallChosen);
+  connect(call_, &QPushButton::clicked, this, &HostWindow::CallChosen);
   operations_->setCurrentRow(0);
 }
 
@@ -94,6 +94,7 @@ void HostWindow::ShowChosen() {
     arguments_->addRow(QString::fromStdString(argument.meaning), editor);
     editors_.push_back(editor);
   }
+  OrderTabs();
   ShowValues();
   raw_result_->setText("Not called yet");
   fields_->setRowCount(0);
@@ -152,6 +153,19 @@ void HostWindow::ShowResult(const Operation& operation, const Outcome& outcome) 
     fields_->setItem(row, 2, Cell(operation.fields[i].meaning));
   }
   fields_->resizeColumnToContents(1);
+  // A long value leaves room for its meaning.
+  const int most = fields_->viewport()->width() * 2 / 5;
+  fields_->setColumnWidth(1, std::min(fields_->columnWidth(1), most));
+}
+
+void HostWindow::OrderTabs() {
+  QWidget* before = points_;
+  for (QLineEdit* editor : editors_) {
+    setTabOrder(before, editor);
+    before = editor;
+  }
+  setTabOrder(before, call_);
+  setTabOrder(call_, fields_);
 }
 
 }  // namespace orreryui::host

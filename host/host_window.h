@@ -9,6 +9,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QPushButton>
 #include <QTableWidget>
 #include <QWidget>
 #include <vector>
@@ -32,6 +33,7 @@ class HostWindow : public QWidget {
   void KeepPoint(const Operation& operation);
   void ShowValues();
   void ShowPalette();
+  void OrderTabs();
   void ShowResult(const Operation& operation, const Outcome& outcome);
 
   SampleFolder data_;
@@ -44,6 +46,7 @@ class HostWindow : public QWidget {
   QLabel* purpose_;
   QFormLayout* arguments_;
   PaletteStrip* strip_;
+  QPushButton* call_;
   QLabel* raw_result_;
   QTableWidget* fields_;
 };

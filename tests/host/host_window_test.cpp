@@ -53,6 +53,19 @@ TEST_F(HostWindowTest, PassesInWhatTheLastCallHandedBack) {
   EXPECT_EQ(FieldValue(1), "off");
 }
 
+TEST_F(HostWindowTest, TheKeyboardGoesFromTheArgumentsToTheCallAndALongValueLeavesRoom) {
+  Choose("OnMapTypeSet");
+  window_.show();
+  const QWidget* next = &Editor("REGION");
+  do {
+    next = next->nextInFocusChain();
+  } while (!(next->focusPolicy() & Qt::TabFocus));
+  EXPECT_EQ(next->objectName(), "call");
+  CallAndPlay({{159, [](Hand& hand) { hand.Click(1); }}});
+  auto* const fields = window_.findChild<QTableWidget*>("fields");
+  EXPECT_GE(fields->columnWidth(2), fields->viewport()->width() / 3);
+}
+
 // The colour of the strip at a level, from its column in the middle of the level.
 QColor ColourAt(PaletteStrip& strip, int level) {
   strip.resize(kLevels * 3, strip.height());
