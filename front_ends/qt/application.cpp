@@ -75,9 +75,9 @@ bool FindOrMakeApplication() {
   if (!found_before && HasForeignQt()) return false;
   found_before = true;
   if (QCoreApplication::instance() != nullptr) return HasApplication();
-  const std::optional<QByteArray> platform = UsablePlatform();
+  const std::optional<Platform> platform = UsablePlatform();
   if (!platform) return false;
-  MakeApplication(*platform);
+  MakeApplication(platform->name);
   return true;
 }
 

@@ -56,18 +56,23 @@ bool PluginLoads(const QString& name) {
   return false;
 }
 
-bool Works(const QByteArray& platform) {
+std::optional<Platform> Probe(const QByteArray& platform) {
   const QByteArray name = platform.split(':').front().trimmed().toLower();
-  if (name == "xcb" && !XServerAnswers()) return false;
-  if (name.startsWith("wayland") && !WaylandServerAnswers()) return false;
-  return !name.isEmpty() && PluginLoads(QString::fromLatin1(name));
+  Platform found{platform, nullptr};
+  if (name == "xcb") {
+    found.connection = ConnectToXServer();
+    if (!found.connection) return std::nullopt;
+  }
+  if (name.startsWith("wayland") && !WaylandServerAnswers()) return std::nullopt;
+  if (name.isEmpty() || !PluginLoads(QString::fromLatin1(name))) return std::nullopt;
+  return found;
 }
 
 }  // namespace
 
-std::optional<QByteArray> UsablePlatform() {
+std::optional<Platform> UsablePlatform() {
   for (const QByteArray& platform : Candidates()) {
-    if (Works(platform)) return platform;
+    if (auto found = Probe(platform)) return found;
   }
   return std::nullopt;
 }

@@ -4,14 +4,19 @@
 #define ORRERYUI_FRONT_ENDS_QT_DISPLAY_PROBE_H_
 
 #include <QByteArray>
+#include <memory>
 #include <optional>
 
 namespace orreryui {
 
-// The first of the platforms which Qt would try that works, in the form that QT_QPA_PLATFORM takes;
-// nothing if none does. A display server that doesn't answer within seconds counts as none. Prints
-// nothing.
-std::optional<QByteArray> UsablePlatform();
+struct Platform {
+  QByteArray name;                   // in the form that QT_QPA_PLATFORM takes
+  std::shared_ptr<void> connection;  // to be held until Qt has one of its own; may be null
+};
+
+// The first of the platforms which Qt would try that works; nothing if none does. A display server
+// that doesn't answer within seconds counts as none. Prints nothing.
+std::optional<Platform> UsablePlatform();
 
 }  // namespace orreryui
 

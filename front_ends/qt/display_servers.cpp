@@ -23,26 +23,24 @@ namespace {
 constexpr std::chrono::seconds kPatience(3);
 
 // Connects by the library that Qt itself uses, which knows about names and authorities.
-bool ConnectToXServer() {
+std::shared_ptr<void> Connect() {
   void* const library = dlopen("libxcb.so.1", RTLD_NOW | RTLD_LOCAL);
-  if (library == nullptr) return false;
-  using Connect = void*(const char*, int*);
+  if (library == nullptr) return nullptr;
+  using ConnectTo = void*(const char*, int*);
   using HasError = int(void*);
   using Disconnect = void(void*);
-  auto* const connect = reinterpret_cast<Connect*>(dlsym(library, "xcb_connect"));
+  auto* const connect = reinterpret_cast<ConnectTo*>(dlsym(library, "xcb_connect"));
   auto* const has_error = reinterpret_cast<HasError*>(dlsym(library, "xcb_connection_has_error"));
   auto* const disconnect = reinterpret_cast<Disconnect*>(dlsym(library, "xcb_disconnect"));
-  if (connect == nullptr || has_error == nullptr || disconnect == nullptr) return false;
-  void* const connection = connect(nullptr, nullptr);
-  const bool answered = has_error(connection) == 0;
-  disconnect(connection);
-  return answered;
+  if (connect == nullptr || has_error == nullptr || disconnect == nullptr) return nullptr;
+  std::shared_ptr<void> connection(connect(nullptr, nullptr), disconnect);
+  return has_error(connection.get()) == 0 ? connection : nullptr;
 }
 
-// Runs ConnectToXServer on a thread that takes none of the host's signals.
-std::future<bool> StartConnecting() {
-  std::packaged_task<bool()> task(ConnectToXServer);
-  std::future<bool> answer = task.get_future();
+// Runs Connect on a thread that takes none of the host's signals.
+std::future<std::shared_ptr<void>> StartConnecting() {
+  std::packaged_task<std::shared_ptr<void>()> task(Connect);
+  std::future<std::shared_ptr<void>> answer = task.get_future();
   sigset_t all;
   sigset_t before;
   sigfillset(&all);
@@ -75,13 +73,15 @@ bool WaylandAnswersOn(int socket_number) {
 
 }  // namespace
 
-bool XServerAnswers() {
+std::shared_ptr<void> ConnectToXServer() {
   // Never destroyed: waiting for a server that hangs must not hold up the end of the process.
-  static auto& pending = *new std::future<bool>;
+  static auto& pending = *new std::future<std::shared_ptr<void>>;
   const char* const display = std::getenv("DISPLAY");
-  if (display == nullptr || *display == 0) return false;
+  if (display == nullptr || *display == 0) return nullptr;
   if (!pending.valid()) pending = StartConnecting();
-  return pending.wait_for(kPatience) == std::future_status::ready && pending.get();
+  if (pending.wait_for(kPatience) != std::future_status::ready) return nullptr;
+  std::shared_ptr<void> connection = pending.get();
+  return connection && XConnectionHolds(connection.get()) ? connection : nullptr;
 }
 
 bool XConnectionHolds(void* connection) {
