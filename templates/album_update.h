@@ -32,7 +32,7 @@ inline constexpr ControlTemplate kControls[] = {
     {ControlKind::kStatic, kNoControlId, "座標"_sj, {16, 64, 44, 8}},
     {ControlKind::kMultiLineEdit, kLatitude, "", {62, 61, 70, 15}, kRightAligned},
     {ControlKind::kMultiLineEdit, kLongitude, "", {62, 80, 70, 15}, kRightAligned},
-    {ControlKind::kGroupBox, kNoControlId, "登録地点のﾃﾞｰﾀ"_sj, {7, 108, 256, 199}},
+    {ControlKind::kGroupBox, kNoControlId, "登録地点のﾃﾞｰﾀ"_sj, {7, 108, 256, 189}},
     {ControlKind::kStatic, kNoControlId, "ﾒﾓ 1"_sj, {16, 127, 44, 8}},
     {ControlKind::kMultiLineEdit, kMemo1, "", {62, 124, 193, 15}},
     {ControlKind::kStatic, kNoControlId, "ﾒﾓ 2"_sj, {16, 146, 44, 8}},
@@ -45,18 +45,18 @@ inline constexpr ControlTemplate kControls[] = {
     {ControlKind::kStatic, kDataNo, "", {62, 202, 60, 8}},
     {ControlKind::kPushButton, kPreviewText, "ﾃｷｽﾄ参照"_sj, {191, 198, 64, 16}},
     {ControlKind::kStatic, kNoControlId, "ファイル一覧"_sj, {16, 217, 60, 8}},
-    {ControlKind::kListBox, kData, "", {16, 227, 239, 54}},
-    {ControlKind::kStatic, kNoControlId, "ﾃﾞｰﾀ"_sj, {16, 289, 20, 8}},
-    {ControlKind::kStatic, kPosition, "   件"_sj, {40, 289, 60, 8}},
-    {ControlKind::kPushButton, kEditAlbum, "編集"_sj, {191, 285, 64, 16}},
-    {ControlKind::kPushButton, kDeleteAlbum, "ｱﾙﾊﾞﾑを削除"_sj, {7, 313, 58, 16}},
-    {ControlKind::kPushButton, kEndUpdate, "更新を終了"_sj, {81, 313, 58, 16}},
-    {ControlKind::kPushButton, IDOK, "OK", {143, 313, 58, 16}, kDefaultButton},
-    {ControlKind::kPushButton, IDCANCEL, "ｷｬﾝｾﾙ"_sj, {205, 313, 58, 16}},
+    {ControlKind::kListBox, kData, "", {16, 227, 239, 44}},
+    {ControlKind::kStatic, kNoControlId, "ﾃﾞｰﾀ"_sj, {16, 279, 20, 8}},
+    {ControlKind::kStatic, kPosition, "   件"_sj, {40, 279, 60, 8}},
+    {ControlKind::kPushButton, kEditAlbum, "編集"_sj, {191, 275, 64, 16}},
+    {ControlKind::kPushButton, kDeleteAlbum, "ｱﾙﾊﾞﾑを削除"_sj, {7, 303, 58, 16}},
+    {ControlKind::kPushButton, kEndUpdate, "更新を終了"_sj, {81, 303, 58, 16}},
+    {ControlKind::kPushButton, IDOK, "OK", {143, 303, 58, 16}, kDefaultButton},
+    {ControlKind::kPushButton, IDCANCEL, "ｷｬﾝｾﾙ"_sj, {205, 303, 58, 16}},
 };
 
 inline constexpr DialogTemplate kTemplate = {
-    147, "  アルバムデータの更新"_sj, Placement::kAtPosition, 340, 20, 270, 336, kControls};
+    147, "  アルバムデータの更新"_sj, Placement::kAtPosition, 340, 20, 270, 326, kControls};
 
 }  // namespace orreryui::album_update
 
