@@ -23,7 +23,8 @@ CString ChooseOpenFile(const char* default_extension, const char* start_name, co
   const auto native = ChooseFile({.start_name = ToUtf8(start_name),
                                   .default_extension = ToUtf8(default_extension),
                                   .must_exist = true,
-                                  .filters = {MakeFilter(filter), AllFiles()}});
+                                  .filters = {MakeFilter(filter), AllFiles()},
+                                  .refused = RefusedInPath});
   if (!native) return CString();
   const auto chosen = PathFromNative(*native);
   if (!chosen) {

@@ -12,7 +12,8 @@ namespace orreryui {
 // "text (*.txt)|*.txt". All are in code page 932.
 //
 // Returns the full path in lower case, or the empty string if the user gave up. A file whose path
-// code page 932 can't tell beeps once more and counts as given up.
+// code page 932 can't tell can't be chosen; where a front end lets it through, it beeps once more
+// and counts as given up.
 CString ChooseOpenFile(const char* default_extension, const char* start_name, const char* filter);
 
 }  // namespace orreryui

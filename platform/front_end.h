@@ -201,6 +201,10 @@ struct FileChooserRequest {
   std::string default_extension;  // without the dot; for a name that has none and isn't there
   bool must_exist = false;
   std::vector<FileFilter> filters;
+
+  // Which characters of a path make it one that can't be used; a file with such a path isn't to be
+  // chosen. Where this is null, any may be.
+  std::function<std::string(const std::string& path)> refused = nullptr;
 };
 
 class FrontEnd {

@@ -120,13 +120,16 @@ std::string NativePath(std::string_view path) {
   return Exists(spelled) ? spelled : FindBelow(root, names);
 }
 
-std::optional<std::string> PathFromNative(std::string_view native) {
-  if (native.find('\\') != std::string_view::npos) return std::nullopt;
-  std::string path(native);
+std::string RefusedInPath(const std::string& native) {
+  if (native.find('\\') != std::string::npos) return "\\";
+  return FromUtf8(native).refused;
+}
+
+std::optional<std::string> PathFromNative(const std::string& native) {
+  if (!RefusedInPath(native).empty()) return std::nullopt;
+  std::string path = native;
   std::replace(path.begin(), path.end(), '/', '\\');
-  Encoded encoded = FromUtf8(path);
-  if (!encoded.refused.empty()) return std::nullopt;
-  return std::move(encoded.bytes);
+  return FromUtf8(path).bytes;
 }
 
 }  // namespace orreryui

@@ -26,7 +26,10 @@ inline std::string NativePath(const char* path) { return NativePath(std::string_
 // The way back, for a path that the file system or a file chooser gave: `\` separates in the
 // result, and NativePath finds the file again. Nothing if the path has a character that the code
 // page lacks, or a backslash within a name.
-std::optional<std::string> PathFromNative(std::string_view native);
+std::optional<std::string> PathFromNative(const std::string& native);
+
+// The characters of a native path that PathFromNative has no path for; empty if it has one.
+std::string RefusedInPath(const std::string& native);
 
 }  // namespace orreryui
 

@@ -9,6 +9,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 
+#include "front_ends/qt/refusal.h"
 #include "front_ends/qt/swatch_button.h"
 #include "front_ends/qt/widget_text.h"
 
@@ -27,15 +28,19 @@ void MakeModal(QDialog& dialog) {
 // A file chooser in whose name field wildcards say which files to list, unless a file is named so.
 class FileChooser : public QFileDialog {
  public:
-  // A name without an extension that isn't there means the file with `extension`.
-  FileChooser(QWidget* owner, const QString& extension)
-      : QFileDialog(owner), extension_(extension) {}
+  // The request outlives the chooser.
+  FileChooser(QWidget* owner, const FileChooserRequest& request)
+      : QFileDialog(owner), request_(request) {}
 
   void accept() override {
     const QStringList chosen = selectedFiles();
     const QFileInfo file(chosen.isEmpty() ? QString() : chosen.front());
     if (HasWildcard(file.fileName()) && !file.exists()) return ListFiles(file);
-    if (fileMode() == ExistingFile && !file.exists() && file.suffix().isEmpty()) Complete(file);
+    if (request_.must_exist && !file.exists()) FindFile(file);
+    if (request_.refused) {
+      const std::string refused = request_.refused(ToUtf8(file.filePath()));
+      if (!refused.empty()) return TellRefusal(*this, refused);
+    }
     QFileDialog::accept();
   }
 
@@ -48,9 +53,15 @@ class FileChooser : public QFileDialog {
     if (files != nullptr) files->setNameFilters({pattern.fileName()});
   }
 
-  void Complete(const QFileInfo& file) {
-    const QString completed = file.filePath() + QLatin1Char('.') + extension_;
-    if (QFileInfo::exists(completed)) ShowName(completed);
+  // A name may lack its extension, and be written in other case.
+  void FindFile(const QFileInfo& typed) {
+    const QString completed =
+        typed.fileName() + QLatin1Char('.') + FromUtf8(request_.default_extension);
+    for (const QFileInfo& file : typed.dir().entryInfoList(QDir::Files)) {
+      const bool same = file.fileName().compare(typed.fileName(), Qt::CaseInsensitive) == 0;
+      const bool longer = file.fileName().compare(completed, Qt::CaseInsensitive) == 0;
+      if (same || (longer && typed.suffix().isEmpty())) return ShowName(file.filePath());
+    }
   }
 
   // selectFile leaves the name field alone while it has the focus.
@@ -59,7 +70,7 @@ class FileChooser : public QFileDialog {
     if (field != nullptr) field->setText(name);
   }
 
-  const QString extension_;
+  const FileChooserRequest& request_;
 };
 
 QStringList NameFilters(const FileChooserRequest& request) {
@@ -95,8 +106,7 @@ void StartAt(QFileDialog& dialog, const QString& name) {
 }  // namespace
 
 std::optional<std::string> AskFile(QWidget* owner, const FileChooserRequest& request) {
-  const QString extension = FromUtf8(request.default_extension);
-  FileChooser dialog(owner, extension);
+  FileChooser dialog(owner, request);
   MakeModal(dialog);
   dialog.setAcceptMode(request.must_exist ? QFileDialog::AcceptOpen : QFileDialog::AcceptSave);
   dialog.setFileMode(request.must_exist ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
@@ -105,7 +115,7 @@ std::optional<std::string> AskFile(QWidget* owner, const FileChooserRequest& req
   // The label alone is shown, which may name the patterns itself.
   dialog.setOption(QFileDialog::HideNameFilterDetails);
   dialog.setNameFilters(NameFilters(request));
-  if (!request.must_exist) dialog.setDefaultSuffix(extension);
+  if (!request.must_exist) dialog.setDefaultSuffix(FromUtf8(request.default_extension));
   LabelInJapanese(dialog, request.must_exist);
   StartAt(dialog, FromUtf8(request.start_name));
   if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return std::nullopt;

@@ -103,6 +103,9 @@ TEST_F(PathTest, TheWayBackLeadsToTheSameFile) {
     EXPECT_EQ(path->find('/'), std::string::npos);
     EXPECT_EQ(NativePath(*path), (folder_.Path() / name).string());
   }
+  EXPECT_EQ(RefusedInPath("/tmp/鎌倉.txt"), "");
+  EXPECT_EQ(RefusedInPath("/tmp/a😀.txt"), "😀");
+  EXPECT_EQ(RefusedInPath("/tmp/a\\b.txt"), "\\");
   EXPECT_FALSE(PathFromNative("/tmp/😀.txt"));
   EXPECT_FALSE(PathFromNative("/tmp/a\\b.txt"));
   EXPECT_FALSE(PathFromNative("/tmp/\xFF.txt"));

@@ -12,6 +12,7 @@
 #include <QPushButton>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QToolTip>
 
 #include "tests/qt/plugin.h"
 
@@ -125,12 +126,29 @@ TEST_F(FileChooser, FindsAFileWithTheExtensionOrWithout) {
   request_.default_extension = "txt";
   Make("README");
   Make("README.txt");
-  const std::pair<const char*, const char*> cases[] = {
-      {"README", "README"}, {"図", "図.txt"}, {"図.txt", "図.txt"}};
+  Make("Memo.TXT");
+  const std::pair<const char*, const char*> cases[] = {{"README", "README"},
+                                                       {"図", "図.txt"},
+                                                       {"図.txt", "図.txt"},
+                                                       {"memo", "Memo.TXT"},
+                                                       {"MEMO.txt", "Memo.TXT"}};
   for (const auto& [typed, chosen] : cases) {
     ThenInFront([typed = typed](QWidget& front) { Type(front, typed); });
     EXPECT_EQ(front_end_.ChooseFile(request_), InFolder(chosen));
   }
+}
+
+TEST_F(FileChooser, StaysOpenForAPathThatCannotBeUsed) {
+  request_.must_exist = true;
+  request_.refused = [](const std::string& path) { return path.ends_with("t.txt") ? "t" : ""; };
+  Make("t.txt");
+  ThenInFront([](QWidget& front) {
+    Type(front, "t.txt");
+    EXPECT_TRUE(front.isVisible());
+    EXPECT_TRUE(QToolTip::text().contains("t"));
+    Type(front, "図.txt");
+  });
+  EXPECT_EQ(front_end_.ChooseFile(request_), InFolder("図.txt"));
 }
 
 TEST_F(FileChooser, StaysOpenForAFileThatMustExistAndDoesNot) {
