@@ -101,13 +101,16 @@ void ButtonBinder::ShowLabel() {
 PushButtonBinder::PushButtonBinder(const BinderPlace& place, bool stays_down)
     : ButtonBinder(place, new QPushButton(place.parent)),
       push_button_(static_cast<QPushButton*>(widget())) {
-  push_button_->setAutoDefault(false);
+  // A button with the focus looks like the one that Enter presses, and so it is.
+  push_button_->setAutoDefault(!stays_down);
   push_button_->setCheckable(stays_down);
 }
 
 void PushButtonBinder::ShowState(const ControlView& view) {
   ButtonBinder::ShowState(view);
-  push_button_->setDefault(view.is_default);
+  if (is_default_ == view.is_default) return;
+  is_default_ = view.is_default;
+  push_button_->setDefault(is_default_);
 }
 
 QSize PushButtonBinder::Surroundings() const {

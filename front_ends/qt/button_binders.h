@@ -44,6 +44,7 @@ class PushButtonBinder : public ButtonBinder {
 
  private:
   QPushButton* push_button_;
+  bool is_default_ = false;
 };
 
 class RadioButtonBinder : public ButtonBinder {

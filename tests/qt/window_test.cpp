@@ -51,7 +51,6 @@ TEST(Window, EnterEscAndCloseBecomeGestures) {
   session.layout.focus = 2;
   RunWithUser(session, [&](QDialog& window) {
     auto& other = ControlWidget<QPushButton>(window, 2);
-    EXPECT_TRUE(ControlWidget<QPushButton>(window, 1).isDefault());
     QTest::keyClick(&other, Qt::Key_Return);
     QTest::keyClick(&other, Qt::Key_Enter);
     QTest::keyClick(&other, Qt::Key_Escape);
@@ -59,6 +58,27 @@ TEST(Window, EnterEscAndCloseBecomeGestures) {
     EXPECT_FALSE(window.close());
     EXPECT_TRUE(window.isVisible());
     EXPECT_THAT(session.Take(), ElementsAre("escape"));
+  });
+}
+
+TEST(Window, TheButtonThatEnterPressesStandsOut) {
+  FakeSession session;
+  session.Add(ControlKind::kPushButton, 1, "OK").is_default = true;
+  session.Add(ControlKind::kPushButton, 2, "他");
+  session.Add(ControlKind::kEdit, 3);
+  session.layout.focus = 3;
+  RunWithUser(session, [&](QDialog& window) {
+    const auto& button = ControlWidget<QPushButton>(window, 1);
+    auto& other = ControlWidget<QPushButton>(window, 2);
+    EXPECT_TRUE(button.isDefault());
+    other.setFocus();
+    EXPECT_TRUE(other.isDefault());
+    EXPECT_FALSE(button.isDefault());
+    session.Change(1, [](ControlView& view) { view.text = "終"; });
+    EXPECT_TRUE(other.isDefault());
+    ControlWidget<QLineEdit>(window, 3).setFocus();
+    EXPECT_TRUE(button.isDefault());
+    EXPECT_FALSE(other.isDefault());
   });
 }
 
