@@ -30,6 +30,12 @@ bool GivesPoint(const Operation& operation, const std::string& result) {
                      [](const Field& field) { return field.next_argument == "PLACE"; });
 }
 
+bool DeletesAlbum(const Operation& operation, const std::string& result) {
+  if (!Takes(operation, "ALBUM")) return false;
+  const std::vector<std::string> fields = FieldsOf(operation, result);
+  return fields.size() == 2 && fields[1] == "3";
+}
+
 }  // namespace
 
 HostWindow::HostWindow()
@@ -50,6 +56,7 @@ HostWindow::HostWindow()
   fields_->setHorizontalHeaderLabels({"Field", "Value", "Meaning"});
   fields_->horizontalHeader()->setStretchLastSection(true);
   fields_->verticalHeader()->hide();
+  fields_->setTabKeyNavigation(false);
   call_->setObjectName("call");
 
   auto* const right = new QVBoxLayout;
@@ -73,7 +80,9 @@ HostWindow::HostWindow()
   }
   points_->Keep(kept_);
   connect(operations_, &QListWidget::currentRowChanged, this, &HostWindow::ShowChosen);
-  connect(points_, &QListWidget::currentRowChanged, this, &HostWindow::TakePoint);
+  // A list that gets the focus makes a row the current one without selecting it.
+  connect(points_, &QListWidget::itemSelectionChanged, this, &HostWindow::TakePoint);
+  connect(points_, &QListWidget::itemClicked, this, &HostWindow::TakePoint);
   connect(call_, &QPushButton::clicked, this, &HostWindow::CallChosen);
   operations_->setCurrentRow(0);
 }
@@ -109,13 +118,16 @@ void HostWindow::CallChosen() {
   if (outcome.error.empty()) {
     KeepResult(operation, outcome.result, kept_);
     if (GivesPoint(operation, outcome.result)) KeepPoint(operation);
+    if (DeletesAlbum(operation, outcome.result)) points_->Drop(kept_["ALBUM"]);
   }
   ShowValues();
   ShowResult(operation, outcome);
 }
 
-void HostWindow::TakePoint(int row) {
-  for (const auto& [name, value] : points_->Point(row)) kept_[name] = value;
+void HostWindow::TakePoint() {
+  const QModelIndexList chosen = points_->selectionModel()->selectedRows();
+  if (chosen.isEmpty()) return;
+  for (const auto& [name, value] : points_->Point(chosen.front().row())) kept_[name] = value;
   ShowValues();
 }
 

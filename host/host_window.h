@@ -29,7 +29,7 @@ class HostWindow : public QWidget {
   const Operation& Chosen() const;
   void ShowChosen();
   void CallChosen();
-  void TakePoint(int row);
+  void TakePoint();
   void KeepPoint(const Operation& operation);
   void ShowValues();
   void ShowPalette();

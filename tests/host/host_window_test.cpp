@@ -128,11 +128,22 @@ TEST_F(HostWindowTest, KeepsThePointOfEachAlbum) {
   ASSERT_EQ(points.count(), 2);
   EXPECT_EQ(points.item(1)->text().toStdString(), "材木座, 海岸");
 
-  window_.findChild<PointList*>("points")->setCurrentRow(0);
+  auto* const list = window_.findChild<PointList*>("points");
+  list->setCurrentRow(0);
   EXPECT_EQ(Editor("PLACE").text().toStdString(), "鎌倉駅");
   EXPECT_TRUE(Editor("ALBUM").text().endsWith("kamakura.alb"));
+  Editor("PLACE").setText("typed");
+  emit list->itemClicked(list->item(0));
+  EXPECT_EQ(Editor("PLACE").text().toStdString(), "鎌倉駅") << "the marked point is taken again";
+  list->clearSelection();
+  Editor("PLACE").setText("typed");
+  list->setCurrentRow(1, QItemSelectionModel::NoUpdate);
+  EXPECT_EQ(Editor("PLACE").text(), "typed") << "a row with the focus alone isn't taken";
+
+  list->setCurrentRow(0);
   CallAndPlay({{147, [](Hand& hand) { hand.Click(121); }}});
-  EXPECT_EQ(Editor("PLACE").text().toStdString(), "鎌倉駅");
+  ASSERT_EQ(points.count(), 1) << "a deleted album has no point";
+  EXPECT_EQ(Editor("PLACE").text().toStdString(), "材木座");
 }
 
 TEST_F(HostWindowTest, SaysWhyACallWasNotMade) {
