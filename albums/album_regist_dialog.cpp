@@ -1,8 +1,8 @@
 #include "albums/album_regist_dialog.h"
 
-#include "albums/album_file.h"
 #include "albums/text_preview.h"
 #include "frame/choose_open_file.h"
+#include "points/album_file.h"
 #include "templates/album_regist.h"
 
 namespace orreryui {

@@ -7,7 +7,7 @@
 #ifndef ORRERYUI_ALBUMS_ALBUM_REGIST_DIALOG_H_
 #define ORRERYUI_ALBUMS_ALBUM_REGIST_DIALOG_H_
 
-#include "platform/dialog.h"
+#include "platform/dialogs/dialog.h"
 
 namespace orreryui {
 

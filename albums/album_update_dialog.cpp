@@ -1,9 +1,9 @@
 #include "albums/album_update_dialog.h"
 
-#include "albums/album_file.h"
 #include "albums/text_preview.h"
 #include "frame/run_editor.h"
-#include "routes/packed_point.h"
+#include "points/album_file.h"
+#include "points/packed_point.h"
 #include "templates/album_update.h"
 
 namespace orreryui {

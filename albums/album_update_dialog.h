@@ -10,7 +10,7 @@
 
 #include <vector>
 
-#include "platform/dialog.h"
+#include "platform/dialogs/dialog.h"
 
 namespace orreryui {
 

@@ -6,7 +6,7 @@
 #define ORRERYUI_ALBUMS_DATA_SOURCE_DIALOG_H_
 
 #include "albums/data_file_list.h"
-#include "platform/dialog.h"
+#include "platform/dialogs/dialog.h"
 
 namespace orreryui {
 

@@ -7,7 +7,7 @@
 #include <optional>
 
 #include "appearance/colour.h"
-#include "platform/dialog.h"
+#include "platform/dialogs/dialog.h"
 
 namespace orreryui {
 

@@ -7,7 +7,7 @@
 #define ORRERYUI_APPEARANCE_MAP_TYPE_DIALOG_H_
 
 #include "appearance/map_type_settings.h"
-#include "platform/dialog.h"
+#include "platform/dialogs/dialog.h"
 
 namespace orreryui {
 

@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <iterator>
 
-#include "platform/inner_windows.h"
-#include "platform/japanese_literal.h"
+#include "platform/dialogs/inner_windows.h"
+#include "platform/strings/japanese_literal.h"
 #include "templates/palette.h"
 
 namespace orreryui {

@@ -14,7 +14,7 @@
 #include "appearance/colour.h"
 #include "appearance/palette_file.h"
 #include "appearance/palette_list.h"
-#include "platform/dialog.h"
+#include "platform/dialogs/dialog.h"
 
 namespace orreryui {
 
@@ -45,7 +45,7 @@ class CDlgPalette : public DialogWithMessages<CDlgPalette> {
 
   static std::span<const Message<CDlgPalette>> Messages();
 
-  // The store (palette_store.cpp).
+  // The store (palette_dialog_store.cpp).
 
   // Fills the working colours from the palette in row `index`; one that can't be read is black.
   void LoadColors(int index);

@@ -7,7 +7,7 @@
 #include <string_view>
 
 #include "frame/line_file.h"
-#include "platform/japanese_literal.h"
+#include "platform/strings/japanese_literal.h"
 
 namespace orreryui {
 namespace {

@@ -6,7 +6,7 @@
 #define ORRERYUI_APPEARANCE_REGION_DIALOG_H_
 
 #include "appearance/region_string.h"
-#include "platform/dialog.h"
+#include "platform/dialogs/dialog.h"
 
 namespace orreryui {
 

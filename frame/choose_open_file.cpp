@@ -1,9 +1,9 @@
 #include "frame/choose_open_file.h"
 
 #include "frame/split.h"
-#include "platform/code_page_932.h"
-#include "platform/inner_windows.h"
-#include "platform/path.h"
+#include "platform/dialogs/inner_windows.h"
+#include "platform/strings/code_page_932.h"
+#include "platform/system/path.h"
 
 namespace orreryui {
 namespace {

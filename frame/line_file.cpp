@@ -5,7 +5,7 @@
 #include <optional>
 #include <utility>
 
-#include "platform/path.h"
+#include "platform/system/path.h"
 
 namespace orreryui {
 namespace {

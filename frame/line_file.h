@@ -1,9 +1,9 @@
 // The text files of the dialogs: lines in code page 932, ended by CR LF when they are written. This
 // is the only way in which the dialogs read and change files.
 //
-// Paths are given as the library's own (platform/path.h), in most cases a folder argument with a
-// name glued to it. No file stays open behind a call or a reader's life, and nothing is reported to
-// the user.
+// Paths are given as the library's own (platform/system/path.h), in most cases a folder argument
+// with a name glued to it. No file stays open behind a call or a reader's life, and nothing is
+// reported to the user.
 //
 // All that changes a file returns true once the change is on the disk. False means that the file
 // is what it was before: what was half written has been taken back.
@@ -17,7 +17,7 @@
 #include <string>
 #include <string_view>
 
-#include "platform/file_system.h"
+#include "platform/system/file_system.h"
 
 namespace orreryui {
 

@@ -2,9 +2,9 @@
 
 #include <string>
 
-#include "platform/command_line.h"
-#include "platform/inner_windows.h"
-#include "platform/process.h"
+#include "platform/dialogs/inner_windows.h"
+#include "platform/system/command_line.h"
+#include "platform/system/process.h"
 
 namespace orreryui {
 namespace {

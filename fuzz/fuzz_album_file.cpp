@@ -5,8 +5,8 @@
 #include <string_view>
 #include <vector>
 
-#include "albums/album_file.h"
 #include "fuzz/one_file.h"
+#include "points/album_file.h"
 
 namespace {
 

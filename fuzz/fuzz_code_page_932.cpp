@@ -6,7 +6,7 @@
 #include <string>
 #include <string_view>
 
-#include "platform/code_page_932.h"
+#include "platform/strings/code_page_932.h"
 
 namespace {
 

@@ -5,7 +5,7 @@
 #include <cstdlib>
 #include <string>
 
-#include "routes/packed_point.h"
+#include "points/packed_point.h"
 
 namespace {
 

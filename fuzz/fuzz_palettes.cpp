@@ -10,7 +10,7 @@
 
 #include "appearance/palette_file.h"
 #include "appearance/palette_list.h"
-#include "platform/file_system.h"
+#include "platform/system/file_system.h"
 
 namespace {
 

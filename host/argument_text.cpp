@@ -2,7 +2,7 @@
 
 #include <charconv>
 
-#include "platform/code_page_932.h"
+#include "platform/strings/code_page_932.h"
 
 namespace orreryui::host {
 namespace {

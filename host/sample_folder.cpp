@@ -5,7 +5,7 @@
 #include <QDirIterator>
 #include <QFile>
 
-#include "platform/code_page_932.h"
+#include "platform/strings/code_page_932.h"
 
 namespace orreryui::host {
 namespace {

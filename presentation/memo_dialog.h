@@ -4,7 +4,7 @@
 #ifndef ORRERYUI_PRESENTATION_MEMO_DIALOG_H_
 #define ORRERYUI_PRESENTATION_MEMO_DIALOG_H_
 
-#include "platform/dialog.h"
+#include "platform/dialogs/dialog.h"
 
 namespace orreryui {
 

@@ -3,7 +3,7 @@
 #ifndef ORRERYUI_PRESENTATION_TEXT_VIEW_DIALOG_H_
 #define ORRERYUI_PRESENTATION_TEXT_VIEW_DIALOG_H_
 
-#include "platform/dialog.h"
+#include "platform/dialogs/dialog.h"
 
 namespace orreryui {
 

@@ -3,7 +3,7 @@
 #ifndef ORRERYUI_RETRIEVAL_RANGE_DIALOG_H_
 #define ORRERYUI_RETRIEVAL_RANGE_DIALOG_H_
 
-#include "platform/dialog.h"
+#include "platform/dialogs/dialog.h"
 
 namespace orreryui {
 

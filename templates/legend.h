@@ -3,8 +3,8 @@
 #ifndef ORRERYUI_TEMPLATES_LEGEND_H_
 #define ORRERYUI_TEMPLATES_LEGEND_H_
 
-#include "platform/dialog_template.h"
-#include "platform/japanese_literal.h"
+#include "platform/dialogs/dialog_template.h"
+#include "platform/strings/japanese_literal.h"
 
 namespace orreryui::legend {
 

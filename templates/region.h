@@ -7,8 +7,8 @@
 #include <iterator>
 #include <string_view>
 
-#include "platform/dialog_template.h"
-#include "platform/japanese_literal.h"
+#include "platform/dialogs/dialog_template.h"
+#include "platform/strings/japanese_literal.h"
 
 namespace orreryui::region {
 

@@ -2,7 +2,7 @@
 #ifndef ORRERYUI_TEMPLATES_TEXT_VIEW_H_
 #define ORRERYUI_TEMPLATES_TEXT_VIEW_H_
 
-#include "platform/dialog_template.h"
+#include "platform/dialogs/dialog_template.h"
 
 namespace orreryui::text_view {
 

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Prints platform/code_page_932_table.h.
+"""Prints platform/strings/code_page_932_table.h.
 
 The assignments come from Python's own cp932 codec, which follows the Microsoft table that the
 Unicode Consortium publishes. The way back is decided here: Python prefers NEC's selection to IBM's

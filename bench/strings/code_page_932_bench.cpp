@@ -6,7 +6,7 @@
 #include <chrono>
 #include <string>
 
-#include "platform/code_page_932.h"
+#include "platform/strings/code_page_932.h"
 
 namespace orreryui {
 namespace {

@@ -4,7 +4,7 @@
 
 #include <map>
 
-#include "platform/japanese_literal.h"
+#include "platform/strings/japanese_literal.h"
 #include "tests/files/faulty_file_system.h"
 #include "tests/operations/test_folder.h"
 

@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "front_ends/script/script_front_end.h"
-#include "platform/front_end_loader.h"
+#include "platform/dialogs/front_end_loader.h"
 
 namespace orreryui {
 namespace {

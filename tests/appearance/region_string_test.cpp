@@ -4,7 +4,7 @@
 
 #include <string>
 
-#include "platform/japanese_literal.h"
+#include "platform/strings/japanese_literal.h"
 
 namespace orreryui {
 namespace {

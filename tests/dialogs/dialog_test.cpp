@@ -1,12 +1,12 @@
 // The rules of the platform: what each gesture changes, and which events follow in which order.
-#include "platform/dialog.h"
+#include "platform/dialogs/dialog.h"
 
 #include <gtest/gtest.h>
 
 #include "front_ends/script/script_front_end.h"
-#include "platform/front_end_loader.h"
-#include "platform/inner_windows.h"
-#include "platform/japanese_literal.h"
+#include "platform/dialogs/front_end_loader.h"
+#include "platform/dialogs/inner_windows.h"
+#include "platform/strings/japanese_literal.h"
 
 namespace orreryui {
 namespace {

@@ -7,9 +7,9 @@
 #include <utility>
 
 #include "front_ends/script/script_front_end.h"
-#include "platform/code_page_932.h"
-#include "platform/dialog.h"
-#include "platform/front_end_loader.h"
+#include "platform/dialogs/dialog.h"
+#include "platform/dialogs/front_end_loader.h"
+#include "platform/strings/code_page_932.h"
 
 namespace orreryui {
 namespace {

@@ -1,4 +1,4 @@
-#include "platform/command_line.h"
+#include "platform/system/command_line.h"
 
 #include <gtest/gtest.h>
 #include <sys/stat.h>
@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "platform/code_page_932.h"
+#include "platform/strings/code_page_932.h"
 #include "tests/operations/test_folder.h"
 
 namespace orreryui {

@@ -1,11 +1,11 @@
-#include "platform/path.h"
+#include "platform/system/path.h"
 
 #include <gtest/gtest.h>
 
 #include <string>
 
-#include "platform/code_page_932.h"
-#include "platform/file_system.h"
+#include "platform/strings/code_page_932.h"
+#include "platform/system/file_system.h"
 #include "tests/operations/test_folder.h"
 
 namespace orreryui {

@@ -9,7 +9,7 @@
 
 #include <string>
 
-#include "platform/front_end_loader.h"
+#include "platform/dialogs/front_end_loader.h"
 #include "tests/operations/test_folder.h"
 
 namespace orreryui {

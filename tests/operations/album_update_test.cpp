@@ -3,9 +3,9 @@
 #include <sys/stat.h>
 
 #include "front_ends/script/script_front_end.h"
-#include "platform/code_page_932.h"
-#include "platform/front_end_loader.h"
-#include "platform/japanese_literal.h"
+#include "platform/dialogs/front_end_loader.h"
+#include "platform/strings/code_page_932.h"
+#include "platform/strings/japanese_literal.h"
 #include "tests/files/faulty_file_system.h"
 #include "tests/operations/test_folder.h"
 

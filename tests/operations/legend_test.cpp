@@ -3,8 +3,8 @@
 
 #include <map>
 
-#include "platform/front_end_loader.h"
-#include "platform/japanese_literal.h"
+#include "platform/dialogs/front_end_loader.h"
+#include "platform/strings/japanese_literal.h"
 #include "templates/legend.h"
 #include "tests/operations/swatches.h"
 #include "tests/operations/test_folder.h"

@@ -10,8 +10,8 @@
 #include <vector>
 
 #include "front_ends/script/script_front_end.h"
-#include "platform/code_page_932.h"
-#include "platform/front_end_loader.h"
+#include "platform/dialogs/front_end_loader.h"
+#include "platform/strings/code_page_932.h"
 #include "tests/operations/swatches.h"
 #include "tests/operations/test_folder.h"
 

@@ -2,8 +2,8 @@
 #include <orreryui/orreryui.h>
 
 #include "front_ends/script/script_front_end.h"
-#include "platform/front_end_loader.h"
-#include "platform/japanese_literal.h"
+#include "platform/dialogs/front_end_loader.h"
+#include "platform/strings/japanese_literal.h"
 
 namespace orreryui {
 namespace {

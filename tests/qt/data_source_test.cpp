@@ -10,9 +10,9 @@
 #include <QPlainTextEdit>
 #include <QTest>
 
-#include "platform/code_page_932.h"
-#include "platform/front_end_loader.h"
-#include "platform/japanese_literal.h"
+#include "platform/dialogs/front_end_loader.h"
+#include "platform/strings/code_page_932.h"
+#include "platform/strings/japanese_literal.h"
 #include "tests/operations/test_folder.h"
 #include "tests/qt/plugin.h"
 

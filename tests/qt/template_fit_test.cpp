@@ -8,8 +8,8 @@
 #include <QTest>
 #include <ostream>
 
-#include "platform/dialog.h"
-#include "platform/front_end_loader.h"
+#include "platform/dialogs/dialog.h"
+#include "platform/dialogs/front_end_loader.h"
 #include "templates/album_regist.h"
 #include "templates/album_update.h"
 #include "templates/data_source.h"

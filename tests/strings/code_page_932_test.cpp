@@ -1,4 +1,4 @@
-#include "platform/code_page_932.h"
+#include "platform/strings/code_page_932.h"
 
 #include <map>
 #include <string>
@@ -8,8 +8,8 @@
 #include <gtest/gtest.h>
 #include <orreryui/cstring.h>
 
-#include "platform/code_page_932_code.h"
-#include "platform/utf8.h"
+#include "platform/strings/code_page_932_code.h"
+#include "platform/strings/utf8.h"
 
 namespace orreryui {
 namespace {

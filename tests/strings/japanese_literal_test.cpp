@@ -1,11 +1,11 @@
-#include "platform/japanese_literal.h"
+#include "platform/strings/japanese_literal.h"
 
 #include <string_view>
 
 #include <gtest/gtest.h>
 #include <orreryui/cstring.h>
 
-#include "platform/code_page_932.h"
+#include "platform/strings/code_page_932.h"
 
 namespace orreryui {
 namespace {

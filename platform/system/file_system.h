@@ -1,0 +1,100 @@
+// The one door to the file system: whatever reads, writes, lists, renames or removes a file asks
+// CurrentFileSystem(). Paths are the system's own (see platform/system/path.h for the way there).
+//
+// Failure is a return value, nothing throws. Only regular files are opened; a folder, a pipe or a
+// device is refused, so that no call waits for another program.
+#ifndef ORRERYUI_PLATFORM_SYSTEM_FILE_SYSTEM_H_
+#define ORRERYUI_PLATFORM_SYSTEM_FILE_SYSTEM_H_
+
+#include <cstddef>
+#include <cstdint>
+#include <ctime>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace orreryui {
+
+enum class OpenMode {
+  kRead,
+  kReadWrite,  // the file must exist; nothing of it changes yet
+  kCreate,     // for writing; fails if the name is taken
+};
+
+// An open file, closed when it goes. Read and Write go on where the last of them, or Seek, stopped.
+class File {
+ public:
+  virtual ~File() = default;
+
+  // The number of bytes read, fewer than `size` only if there are no more at the moment; 0 at the
+  // end of the file, -1 on failure.
+  virtual std::ptrdiff_t Read(char* buffer, std::size_t size) = 0;
+
+  // True if all bytes were taken. After a failure some of them may have been.
+  virtual bool Write(std::string_view bytes) = 0;
+
+  virtual bool Seek(std::uint64_t position) = 0;
+  virtual std::optional<std::uint64_t> Size() = 0;
+  virtual bool Truncate(std::uint64_t size) = 0;
+
+  // Returns once the bytes are on the disk.
+  virtual bool Sync() = 0;
+};
+
+struct FileInfo {
+  enum class Kind { kFile, kFolder, kOther };
+  Kind kind = Kind::kOther;
+  std::uint64_t size = 0;
+  std::time_t modified = 0;  // seconds since 1970, UTC
+  bool executable = false;   // a file that this process may start
+};
+
+class FileSystem {
+ public:
+  virtual ~FileSystem() = default;
+
+  // Null if the file can't be opened in this way. A created file gets the mode that the process's
+  // umask leaves of rw for all, and no open file is handed on to a program that is started.
+  virtual std::unique_ptr<File> Open(const std::string& path, OpenMode mode) = 0;
+
+  virtual bool Remove(const std::string& path) = 0;  // a file, not a folder
+
+  // What had the name `to` is replaced by the file `from` in one step: at each moment the name
+  // leads to the old file or to the new one.
+  virtual bool Rename(const std::string& from, const std::string& to) = 0;
+
+  // Nothing if there is no such name.
+  virtual std::optional<FileInfo> Stat(const std::string& path) = 0;
+
+  // The names in a folder, in no order, without "." and ".."; none if it can't be read.
+  virtual std::vector<std::string> List(const std::string& folder) = 0;
+
+  // Returns once the names in the folder that holds `path` are on the disk. True also where the
+  // system has no way to see to that.
+  virtual bool SyncFolderOf(const std::string& path) = 0;
+};
+
+// The system's own files, unless a ScopedFileSystem has put another in their place.
+FileSystem& CurrentFileSystem();
+
+// Puts a file system in the place of the current one for as long as the object lives. `files` must
+// live longer. Objects nest; the last one counts.
+class ScopedFileSystem {
+ public:
+  explicit ScopedFileSystem(FileSystem& files);
+  ~ScopedFileSystem();
+  ScopedFileSystem(const ScopedFileSystem&) = delete;
+  ScopedFileSystem& operator=(const ScopedFileSystem&) = delete;
+
+ private:
+  FileSystem* previous_;
+};
+
+// The whole content of an open file, from its start, or nothing if it can't be read.
+std::optional<std::string> ReadAll(File& file);
+
+}  // namespace orreryui
+
+#endif  // ORRERYUI_PLATFORM_SYSTEM_FILE_SYSTEM_H_

@@ -1,0 +1,135 @@
+#include "platform/system/path.h"
+
+#include <orreryui/cstring.h>
+
+#include <algorithm>
+#include <vector>
+
+#include "platform/strings/code_page_932.h"
+#include "platform/system/file_system.h"
+
+namespace orreryui {
+namespace {
+
+std::size_t CharacterAt(std::string_view text, std::size_t position) {
+  const char next = position + 1 < text.size() ? text[position + 1] : '\0';
+  return static_cast<std::size_t>(CharacterLength(text[position], next));
+}
+
+bool IsSeparator(char byte) { return byte == '\\' || byte == '/'; }
+
+bool HasDrive(std::string_view path) {
+  if (path.size() < 2 || path[1] != ':') return false;
+  return (path[0] >= 'A' && path[0] <= 'Z') || (path[0] >= 'a' && path[0] <= 'z');
+}
+
+std::vector<std::string_view> SplitNames(std::string_view path) {
+  std::vector<std::string_view> names;
+  std::size_t begin = 0;
+  for (std::size_t i = 0; i <= path.size(); i += i < path.size() ? CharacterAt(path, i) : 1) {
+    if (i < path.size() && !IsSeparator(path[i])) continue;
+    if (i > begin) names.push_back(path.substr(begin, i - begin));
+    begin = i + 1;
+  }
+  return names;
+}
+
+// Makes the ASCII and full-width letters of a text in code page 932 small.
+std::string Fold(std::string_view bytes) {
+  constexpr char kLead = '\x82';
+  std::string folded(bytes);
+  for (std::size_t i = 0; i < folded.size(); i += CharacterAt(folded, i)) {
+    char& first = folded[i];
+    if (first >= 'A' && first <= 'Z') first = static_cast<char>(first - 'A' + 'a');
+    if (first != kLead || CharacterAt(folded, i) != 2) continue;
+    char& second = folded[i + 1];
+    // Capitals are 8260 to 8279, small letters 8281 to 829A.
+    if (second >= '\x60' && second <= '\x79') second = static_cast<char>(second + 0x21);
+  }
+  return folded;
+}
+
+// One name of a path, in the two ways in which a disk may have it.
+class Name {
+ public:
+  explicit Name(std::string_view bytes) : raw_(bytes), utf8_(ToUtf8(bytes)), folded_(Fold(raw_)) {
+    Encoded encoded = FromUtf8(utf8_);
+    // Bytes that make no character can't be told in UTF-8.
+    if (!encoded.refused.empty()) utf8_ = raw_;
+    folded_utf8_ = Fold(encoded.bytes);
+  }
+
+  const std::string& Spelled() const { return utf8_; }
+  const std::string& Raw() const { return raw_; }
+
+  // The name in a folder that differs only by case, or the empty string.
+  std::string FindIn(const std::string& folder) const {
+    std::vector<std::string> names = CurrentFileSystem().List(folder);
+    std::sort(names.begin(), names.end());
+    auto found = std::find_if(names.begin(), names.end(), [&](const std::string& name) {
+      const Encoded encoded = FromUtf8(name);
+      return encoded.refused.empty() && Fold(encoded.bytes) == folded_utf8_;
+    });
+    if (found == names.end()) {
+      found = std::find_if(names.begin(), names.end(),
+                           [&](const std::string& name) { return Fold(name) == folded_; });
+    }
+    return found == names.end() ? std::string() : *found;
+  }
+
+ private:
+  std::string raw_;
+  std::string utf8_;
+  std::string folded_;
+  std::string folded_utf8_;
+};
+
+std::string Below(const std::string& folder, const std::string& name) {
+  const bool glue = !folder.empty() && folder.back() != '/';
+  return glue ? folder + '/' + name : folder + name;
+}
+
+bool Exists(const std::string& path) { return CurrentFileSystem().Stat(path).has_value(); }
+
+// Goes down from folder to folder, as far as there are any.
+std::string FindBelow(std::string native, const std::vector<Name>& names) {
+  bool found = true;
+  for (const Name& name : names) {
+    std::string next = Below(native, name.Spelled());
+    if (found && !Exists(next)) {
+      const bool is_raw = Exists(Below(native, name.Raw()));
+      const std::string other = is_raw ? name.Raw() : name.FindIn(native.empty() ? "." : native);
+      found = !other.empty();
+      if (found) next = Below(native, other);
+    }
+    native = std::move(next);
+  }
+  return native;
+}
+
+}  // namespace
+
+std::string NativePath(std::string_view path) {
+  if (HasDrive(path)) path.remove_prefix(2);
+  const std::string root(!path.empty() && IsSeparator(path[0]) ? 1 : 0, '/');
+  std::vector<Name> names;
+  std::string spelled = root;
+  for (const std::string_view bytes : SplitNames(path)) {
+    spelled = Below(spelled, names.emplace_back(bytes).Spelled());
+  }
+  return Exists(spelled) ? spelled : FindBelow(root, names);
+}
+
+std::string RefusedInPath(const std::string& native) {
+  if (native.find('\\') != std::string::npos) return "\\";
+  return FromUtf8(native).refused;
+}
+
+std::optional<std::string> PathFromNative(const std::string& native) {
+  if (!RefusedInPath(native).empty()) return std::nullopt;
+  std::string path = native;
+  std::replace(path.begin(), path.end(), '/', '\\');
+  return FromUtf8(path).bytes;
+}
+
+}  // namespace orreryui

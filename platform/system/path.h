@@ -1,0 +1,36 @@
+// The way between the paths that hosts, dialogs and data files use and those of the file system.
+//
+// A path of the library is written in the Windows manner, in code page 932: `\` and `/` both
+// separate, unless the byte is the second half of a character, and a drive letter may stand in
+// front. On the disk names are UTF-8, `/` separates and there are no drives.
+#ifndef ORRERYUI_PLATFORM_SYSTEM_PATH_H_
+#define ORRERYUI_PLATFORM_SYSTEM_PATH_H_
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace orreryui {
+
+// The path on the disk. A drive letter is dropped, and a relative path stays relative.
+//
+// Each name is looked for in the folder found so far: as it is spelled, in UTF-8; then with the
+// bytes of the code page; then without regard to the case of ASCII and full-width letters, where
+// of several names that match the first in byte order is taken. A name that isn't found at all is
+// spelled as given, so that a file which is created stands below the folders that exist.
+//
+// The empty path stays empty; no file has that name.
+std::string NativePath(std::string_view path);
+inline std::string NativePath(const char* path) { return NativePath(std::string_view(path)); }
+
+// The way back, for a path that the file system or a file chooser gave: `\` separates in the
+// result, and NativePath finds the file again. Nothing if the path has a character that the code
+// page lacks, or a backslash within a name.
+std::optional<std::string> PathFromNative(const std::string& native);
+
+// The characters of a native path that PathFromNative has no path for; empty if it has one.
+std::string RefusedInPath(const std::string& native);
+
+}  // namespace orreryui
+
+#endif  // ORRERYUI_PLATFORM_SYSTEM_PATH_H_

@@ -1,0 +1,114 @@
+// What an album file holds after each write, and which of its lines a reader gets.
+#include "points/album_file.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "platform/strings/japanese_literal.h"
+#include "tests/operations/test_folder.h"
+
+namespace orreryui {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+constexpr char kAlbum[] = "a.alb";
+
+std::string Lines(int first, int last) {
+  std::string lines;
+  for (int i = first; i <= last; ++i) lines += "p" + std::to_string(i) + " 1 2 i f.txt\r\n";
+  return lines;
+}
+
+class AlbumFileTest : public testing::Test {
+ protected:
+  CString Path() const { return folder.Argument() + kAlbum; }
+
+  // The lines of a file with these bytes.
+  std::vector<std::string> LinesOf(const std::string& bytes) const {
+    folder.Write(kAlbum, bytes);
+    std::vector<std::string> lines;
+    for (const CString& line : ReadAlbumLines(Path())) lines.emplace_back(line);
+    return lines;
+  }
+
+  TestFolder folder;
+};
+
+TEST_F(AlbumFileTest, AFirstLineStartsTheFileAndTheOthersFollow) {
+  folder.Write(kAlbum, Lines(1, 200));
+  const DataLine both = {"Mt|表"_sj, "34.5000", "135.0000", "社 寺"_sj, "C:\\Text.txt", "P.JPG"};
+  const DataLine picture = {"p", "1", "2", "", "", "p.gif"};
+  const DataLine text = {"a\r\nb", "", "", "i", "t 1.txt", ""};
+  EXPECT_TRUE(AppendAlbumLine(Path(), true, both));
+  EXPECT_EQ(folder.Read(kAlbum),
+            std::string("Mt|表 34.5000 135.0000 社 寺 P.JPG C:\\Text.txt\r\n"_sj));
+  EXPECT_TRUE(AppendAlbumLine(Path(), false, picture));
+  EXPECT_TRUE(AppendAlbumLine(Path(), false, text));
+  EXPECT_EQ(folder.Read(kAlbum), std::string("Mt|表 34.5000 135.0000 社 寺 P.JPG C:\\Text.txt\r\n"
+                                             "p 1 2  p.gif\r\n"
+                                             "a\r\nb   i t 1.txt\r\n"_sj));
+}
+
+TEST_F(AlbumFileTest, LinesAreAddedBeyondWhatAReaderGets) {
+  folder.Write(kAlbum, Lines(1, 98));
+  for (int i = 99; i <= 101; ++i) {
+    const CString place = ("p" + std::to_string(i)).c_str();
+    EXPECT_TRUE(AppendAlbumLine(Path(), false, {place, "1", "2", "i", "f.txt", ""}));
+  }
+  EXPECT_EQ(folder.Read(kAlbum), Lines(1, 101));
+}
+
+TEST_F(AlbumFileTest, OnlyTheFirstLineMakesAFile) {
+  const DataLine data = {"p", "1", "2", "i", "t.txt", ""};
+  EXPECT_FALSE(AppendAlbumLine(Path(), false, data));
+  EXPECT_EQ(folder.Read(kAlbum), std::nullopt);
+  EXPECT_FALSE(AppendAlbumLine(folder.Argument() + "none\\a.alb", true, data));
+  EXPECT_FALSE(AppendAlbumLine("", true, data));
+  EXPECT_FALSE(CreateEmptyAlbum(folder.Argument()));
+}
+
+TEST_F(AlbumFileTest, AnEmptyAlbumHoldsNothingOfTheOldOne) {
+  EXPECT_TRUE(CreateEmptyAlbum(Path()));
+  EXPECT_EQ(folder.Read(kAlbum), "");
+  folder.Write(kAlbum, Lines(1, 3));
+  EXPECT_TRUE(CreateEmptyAlbum(Path()));
+  EXPECT_EQ(folder.Read(kAlbum), "");
+}
+
+TEST_F(AlbumFileTest, EmptyLinesCommentsAndCapitalMAreSkipped) {
+  EXPECT_THAT(LinesOf("a\r\n\r\n;c\nMt 1 2 i f\r\nmt 1 2 i f\n \nb"),
+              ElementsAre("a", "mt 1 2 i f", " ", "b"));
+  EXPECT_THAT(LinesOf("\r\n"), IsEmpty());
+  EXPECT_THAT(LinesOf(""), IsEmpty());
+  EXPECT_THAT(ReadAlbumLines(folder.Argument() + "none"), IsEmpty());
+  EXPECT_THAT(ReadAlbumLines(folder.Argument()), IsEmpty());
+}
+
+TEST_F(AlbumFileTest, TheEndMarkerHidesWhatStandsBehindIt) {
+  EXPECT_THAT(LinesOf("a\r\n9990\r\n 999\r\n999\r\nb\r\n"), ElementsAre("a", "9990", " 999"));
+}
+
+TEST_F(AlbumFileTest, ALongLineComesInPieces) {
+  const std::string full(199, 'x');
+  EXPECT_THAT(LinesOf(full + "\r\nb\r\n"), ElementsAre(full, "b"));
+  EXPECT_THAT(LinesOf(full + "y z\r\nb"), ElementsAre(full, "y z", "b"));
+  EXPECT_THAT(LinesOf(full + ";y\r\nb"), ElementsAre(full, "b"));
+  EXPECT_THAT(LinesOf(full + "999\r\nb"), ElementsAre(full));
+  // The cut may go through a character.
+  EXPECT_THAT(LinesOf(full.substr(1) + "\x93\x8C|"), ElementsAre(full.substr(1) + "\x93", "\x8C|"));
+}
+
+TEST_F(AlbumFileTest, NinetyNineLinesAreRead) {
+  for (const int count : {98, 99, 100, 5000}) {
+    const std::vector<std::string> lines = LinesOf(Lines(1, count));
+    EXPECT_EQ(lines.size(), static_cast<std::size_t>(std::min(count, 99))) << count;
+    EXPECT_EQ(lines.back(), count == 98 ? "p98 1 2 i f.txt" : "p99 1 2 i f.txt");
+  }
+  const auto lines = LinesOf("\r\n" + Lines(1, 50) + ";\r\n\r\nM\r\n" + Lines(51, 100));
+  EXPECT_EQ(lines.size(), 99u) << "a line without data counts for none";
+}
+
+}  // namespace
+}  // namespace orreryui
