@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Prints platform/strings/code_page_932_table.h.
+"""Prints include/orreryui/detail/code_page_932_table.h.
 
 The assignments come from Python's own cp932 codec, which follows the Microsoft table that the
 Unicode Consortium publishes. The way back is decided here: Python prefers NEC's selection to IBM's
@@ -11,12 +11,12 @@ HEAD = """\
 //
 // Public source: the Microsoft code page 932 table at the Unicode Consortium's vendor mappings
 // (VENDORS/MICSFT/WINDOWS/CP932.TXT). Written by tools/make_code_page_932.py; change that instead.
-#ifndef ORRERYUI_PLATFORM_CODE_PAGE_932_TABLE_H_
-#define ORRERYUI_PLATFORM_CODE_PAGE_932_TABLE_H_
+#ifndef ORRERYUI_DETAIL_CODE_PAGE_932_TABLE_H_
+#define ORRERYUI_DETAIL_CODE_PAGE_932_TABLE_H_
 
 #include <string_view>
 
-namespace orreryui {
+namespace orreryui::detail {
 """
 
 PREFERRED_COMMENT = """
@@ -30,9 +30,9 @@ DECODE_ONLY_COMMENT = """
 """
 
 TAIL = """
-}  // namespace orreryui
+}  // namespace orreryui::detail
 
-#endif  // ORRERYUI_PLATFORM_CODE_PAGE_932_TABLE_H_"""
+#endif  // ORRERYUI_DETAIL_CODE_PAGE_932_TABLE_H_"""
 
 PAIRS_A_LINE = 11
 

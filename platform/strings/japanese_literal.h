@@ -8,8 +8,8 @@
 #include <cstddef>
 #include <string_view>
 
-#include "platform/strings/code_page_932_code.h"
-#include "platform/strings/utf8.h"
+#include <orreryui/detail/code_page_932_code.h>
+#include <orreryui/detail/utf8_characters.h>
 
 namespace orreryui {
 
@@ -23,8 +23,8 @@ struct JapaneseText {
   consteval JapaneseText(const char (&text)[kSize]) {
     char* to = bytes;
     for (std::string_view rest(text, kSize - 1); !rest.empty();) {
-      const int code = CodeOf(TakeUtf8(rest));
-      if (code == kNoCode) complete = false;
+      const int code = detail::CodeOf(detail::TakeUtf8(rest));
+      if (code == detail::kNoCode) complete = false;
       if (code > 0xFF) *to++ = static_cast<char>(code >> 8);
       *to++ = static_cast<char>(code & 0xFF);
     }

@@ -8,11 +8,10 @@
 #include <gtest/gtest.h>
 #include <orreryui/cstring.h>
 
-#include "platform/strings/code_page_932_code.h"
-#include "platform/strings/utf8.h"
-
 namespace orreryui {
 namespace {
+
+using namespace detail;
 
 constexpr char kReplacement[] = "\uFFFD";
 constexpr std::u32string_view kNeighbours = U"\u301C\u2212\u2016\u00A2\u00A3\u00AC\u2014";

@@ -2,12 +2,12 @@
 //
 // Public source: the Microsoft code page 932 table at the Unicode Consortium's vendor mappings
 // (VENDORS/MICSFT/WINDOWS/CP932.TXT). Written by tools/make_code_page_932.py; change that instead.
-#ifndef ORRERYUI_PLATFORM_STRINGS_CODE_PAGE_932_TABLE_H_
-#define ORRERYUI_PLATFORM_STRINGS_CODE_PAGE_932_TABLE_H_
+#ifndef ORRERYUI_DETAIL_CODE_PAGE_932_TABLE_H_
+#define ORRERYUI_DETAIL_CODE_PAGE_932_TABLE_H_
 
 #include <string_view>
 
-namespace orreryui {
+namespace orreryui::detail {
 
 // Pairs of a character and its code, ordered by character: each character that has a code, once,
 // with the code that it is written as.
@@ -724,6 +724,6 @@ inline constexpr std::u16string_view kCodePage932DecodeOnly =
     u"℡\xFA5A∵\xFA5B";
 // clang-format on
 
-}  // namespace orreryui
+}  // namespace orreryui::detail
 
-#endif  // ORRERYUI_PLATFORM_STRINGS_CODE_PAGE_932_TABLE_H_
+#endif  // ORRERYUI_DETAIL_CODE_PAGE_932_TABLE_H_

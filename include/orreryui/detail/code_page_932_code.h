@@ -1,10 +1,10 @@
 // The code of one character in code page 932, at run time and at compile time.
-#ifndef ORRERYUI_PLATFORM_STRINGS_CODE_PAGE_932_CODE_H_
-#define ORRERYUI_PLATFORM_STRINGS_CODE_PAGE_932_CODE_H_
+#ifndef ORRERYUI_DETAIL_CODE_PAGE_932_CODE_H_
+#define ORRERYUI_DETAIL_CODE_PAGE_932_CODE_H_
 
-#include "platform/strings/code_page_932_table.h"
+#include <orreryui/detail/code_page_932_table.h>
 
-namespace orreryui {
+namespace orreryui::detail {
 
 // What the functions below return for a character without code.
 inline constexpr int kNoCode = -1;
@@ -41,6 +41,6 @@ constexpr int CodeOf(char32_t character) {
   return pairs[2 * first] == character ? pairs[2 * first + 1] : kNoCode;
 }
 
-}  // namespace orreryui
+}  // namespace orreryui::detail
 
-#endif  // ORRERYUI_PLATFORM_STRINGS_CODE_PAGE_932_CODE_H_
+#endif  // ORRERYUI_DETAIL_CODE_PAGE_932_CODE_H_

@@ -1,11 +1,11 @@
 // Reading and writing UTF-8, one character at a time, at run time and at compile time.
-#ifndef ORRERYUI_PLATFORM_STRINGS_UTF8_H_
-#define ORRERYUI_PLATFORM_STRINGS_UTF8_H_
+#ifndef ORRERYUI_DETAIL_UTF8_CHARACTERS_H_
+#define ORRERYUI_DETAIL_UTF8_CHARACTERS_H_
 
 #include <string>
 #include <string_view>
 
-namespace orreryui {
+namespace orreryui::detail {
 
 // What stands for bytes that make no character.
 inline constexpr char32_t kReplacementCharacter = 0xFFFD;
@@ -70,6 +70,6 @@ inline void AppendUtf8(std::string& text, char32_t character) {
   text.append(bytes, static_cast<std::size_t>(PutUtf8(bytes, character) - bytes));
 }
 
-}  // namespace orreryui
+}  // namespace orreryui::detail
 
-#endif  // ORRERYUI_PLATFORM_STRINGS_UTF8_H_
+#endif  // ORRERYUI_DETAIL_UTF8_CHARACTERS_H_
