@@ -45,12 +45,13 @@ function(orrery_link_headers forest)
   endif()
 endfunction()
 
-# orrery_test(NAME SOURCES ... LINKS ...): a GoogleTest program, one CTest entry a test case.
+# orrery_test(NAME SOURCES ... LINKS ...): a GoogleTest program, one CTest entry a test case. It can
+# include everything, and reads and writes Japanese text.
 function(orrery_test name)
   cmake_parse_arguments(ARG "" "" "SOURCES;LINKS" ${ARGN})
   add_executable(${name} ${ARG_SOURCES})
   target_include_directories(${name} PRIVATE "${PROJECT_SOURCE_DIR}")
-  target_link_libraries(${name} PRIVATE orrery_options orrery_cstring ${ARG_LINKS} GTest::gmock
+  target_link_libraries(${name} PRIVATE orrery_options orrery_strings ${ARG_LINKS} GTest::gmock
                                         GTest::gtest_main)
   gtest_discover_tests(${name} DISCOVERY_TIMEOUT 60 PROPERTIES TIMEOUT 120)
 endfunction()

@@ -19,6 +19,8 @@
 
 #include <orreryui/cstring.h>
 
+#include <algorithm>
+#include <cassert>
 #include <cstdint>
 #include <memory>
 #include <optional>
@@ -128,11 +130,14 @@ class CDialog {
 };
 
 // A dialog whose class D has a message map: a static member function Messages() that returns a
-// range of Message<D>. Events that the map doesn't name go to CDialog.
+// range of Message<D>. Events that the map doesn't name go to CDialog. A debug build asserts that
+// the template has every control of the map.
 template <class D>
 class DialogWithMessages : public CDialog {
  protected:
-  using CDialog::CDialog;
+  explicit DialogWithMessages(const DialogTemplate& dialog_template) : CDialog(dialog_template) {
+    assert(MapFits(dialog_template));
+  }
 
   bool OnMessage(int id, Event event) override {
     for (const Message<D>& message : D::Messages()) {
@@ -141,6 +146,21 @@ class DialogWithMessages : public CDialog {
       return true;
     }
     return CDialog::OnMessage(id, event);
+  }
+
+ private:
+  // Whether the template has every control that the map names.
+  static bool MapFits(const DialogTemplate& dialog_template) {
+    const auto has = [&](int id) {
+      return std::any_of(dialog_template.controls.begin(), dialog_template.controls.end(),
+                         [id](const ControlTemplate& control) { return control.id == id; });
+    };
+    for (const Message<D>& message : D::Messages()) {
+      for (int id = message.First(); id <= message.Last(); ++id) {
+        if (!has(id)) return false;
+      }
+    }
+    return true;
   }
 };
 

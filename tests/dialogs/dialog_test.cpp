@@ -376,5 +376,23 @@ TEST(ScriptFrontEnd, ReportsWhatAScriptGotWrong) {
   }
 }
 
+class Unfitting : public DialogWithMessages<Unfitting> {
+ public:
+  explicit Unfitting(const DialogTemplate& shown) : DialogWithMessages(shown) {}
+  static std::span<const Message<Unfitting>> Messages() {
+    static constexpr Message<Unfitting> kMessages[] = {
+        {kEdit, kMulti, Event::kFocusLost, &Unfitting::OnLeave}};
+    return kMessages;
+  }
+
+ private:
+  void OnLeave(int) {}
+};
+
+TEST(MessageMapDeathTest, NamesNoControlThatTheTemplateLacks) {
+  const Unfitting fits(kAll);
+  EXPECT_DEATH(Unfitting{kBare}, "MapFits");
+}
+
 }  // namespace
 }  // namespace orreryui

@@ -10,16 +10,7 @@
 
 #include "platform/dialogs/dialog.h"
 #include "platform/dialogs/front_end_loader.h"
-#include "templates/album_regist.h"
-#include "templates/album_update.h"
-#include "templates/data_source.h"
-#include "templates/legend.h"
-#include "templates/map_type.h"
-#include "templates/memo.h"
-#include "templates/palette.h"
-#include "templates/range.h"
-#include "templates/region.h"
-#include "templates/text_view.h"
+#include "templates/all.h"
 #include "tests/qt/fit_checks.h"
 #include "tests/qt/plugin.h"
 
@@ -30,12 +21,6 @@ void PrintTo(const DialogTemplate* shown, std::ostream* out) {
 }
 
 namespace {
-
-constexpr const DialogTemplate* kTemplates[] = {
-    &album_regist::kTemplate, &album_update::kTemplate, &data_source::kTemplate, &legend::kTemplate,
-    &map_type::kTemplate,     &memo::kTemplate,         &palette::kTemplate,     &range::kTemplate,
-    &region::kTemplate,       &text_view::kTemplate,
-};
 
 bool ShowsItsText(ControlKind kind) {
   return kind == ControlKind::kStatic || kind == ControlKind::kGroupBox ||
@@ -99,7 +84,7 @@ std::string NumberOf(const testing::TestParamInfo<const DialogTemplate*>& shown)
   return std::to_string(shown.param->number);
 }
 
-INSTANTIATE_TEST_SUITE_P(All, TemplateFit, testing::ValuesIn(kTemplates), NumberOf);
+INSTANTIATE_TEST_SUITE_P(All, TemplateFit, testing::ValuesIn(kAllTemplates), NumberOf);
 
 }  // namespace
 }  // namespace orreryui

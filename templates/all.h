@@ -1,0 +1,26 @@
+// All templates, for whoever walks them.
+#ifndef ORRERYUI_TEMPLATES_ALL_H_
+#define ORRERYUI_TEMPLATES_ALL_H_
+
+#include "templates/album_regist.h"
+#include "templates/album_update.h"
+#include "templates/data_source.h"
+#include "templates/legend.h"
+#include "templates/map_type.h"
+#include "templates/memo.h"
+#include "templates/palette.h"
+#include "templates/range.h"
+#include "templates/region.h"
+#include "templates/text_view.h"
+
+namespace orreryui {
+
+inline constexpr const DialogTemplate* kAllTemplates[] = {
+    &album_regist::kTemplate, &album_update::kTemplate, &data_source::kTemplate, &legend::kTemplate,
+    &map_type::kTemplate,     &memo::kTemplate,         &palette::kTemplate,     &range::kTemplate,
+    &region::kTemplate,       &text_view::kTemplate,
+};
+
+}  // namespace orreryui
+
+#endif  // ORRERYUI_TEMPLATES_ALL_H_
