@@ -2,7 +2,7 @@
 
 #include <charconv>
 
-#include "platform/strings/code_page_932.h"
+#include <orreryui/utf8.h>
 
 namespace orreryui::host {
 namespace {

@@ -1,34 +1,22 @@
-// The hand of the tour: acts on the widgets of one dialog by mouse and key events, and takes
-// pictures of it. Widgets are found by the number of their control.
+// The hand of the tour: acts on the controls of one dialog as a user does. Controls are named by
+// their numbers, and texts are UTF-8.
 #ifndef ORRERYUI_HOST_HAND_H_
 #define ORRERYUI_HOST_HAND_H_
 
-#include <QString>
-#include <QWidget>
-#include <functional>
+#include <string>
 
 namespace orreryui::host {
 
 class Hand {
  public:
-  // `dialog` must outlive the hand. `fail` is told what couldn't be done; `picture` gives the name
-  // of the next picture's file.
-  Hand(QWidget& dialog, std::function<void(const QString&)> fail, std::function<QString()> picture);
+  virtual ~Hand() = default;
 
-  void Click(int control);                      // a button of any kind
-  void Type(int control, const QString& text);  // instead of the text of an edit box
-  void PickFromCombo(int control, int row);
-  void PickFromList(int control, int row);  // a list box, or a combo box that is always open
-  void TakePicture();
-
- private:
-  // The widget of a control that a user could reach; otherwise fails and returns null.
-  template <typename Widget>
-  Widget* Find(int control);
-
-  QWidget& dialog_;
-  std::function<void(const QString&)> fail_;
-  std::function<QString()> picture_;
+  virtual void Click(int control) = 0;  // a button of any kind
+  virtual void Type(int control,
+                    const std::string& text) = 0;  // instead of the text of an edit box
+  virtual void PickFromCombo(int control, int row) = 0;
+  virtual void PickFromList(int control, int row) = 0;  // or from a combo box that is always open
+  virtual void TakePicture() = 0;
 };
 
 }  // namespace orreryui::host

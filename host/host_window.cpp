@@ -9,6 +9,7 @@
 #include <span>
 
 #include "host/operation_table.h"
+#include "host/samples.h"
 
 namespace orreryui::host {
 namespace {
@@ -137,7 +138,7 @@ void HostWindow::KeepPoint(const Operation& operation) {
   points_->Keep(kept_);
   const std::string next = std::to_string(points_->count() + 1);
   kept_["NUMBER"] = next;
-  kept_["NEW-ALBUM"] = data_.Filled(AlbumFolder() + "album" + next + ".alb");
+  kept_["NEW-ALBUM"] = data_.Filled(kAlbumFolder + "album" + next + ".alb");
 }
 
 void HostWindow::ShowValues() {

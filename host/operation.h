@@ -1,5 +1,5 @@
-// An exported operation as the sample hosts see it: what it takes, what it gives back, and a way to
-// call it with texts in UTF-8. Knows no dialog and no window.
+// An exported operation as the sample hosts see it: what it takes, what it gives back, a way to
+// call it with texts in UTF-8, and what the tour does in its dialogs.
 #ifndef ORRERYUI_HOST_OPERATION_H_
 #define ORRERYUI_HOST_OPERATION_H_
 
@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "host/argument_text.h"
+#include "host/hand.h"
 
 namespace orreryui::host {
 
@@ -37,6 +38,14 @@ struct Field {
   int factor = 0;  // 0: the field is the argument's whole value
 };
 
+// A step of the tour's visit to an operation: what is done in one go in the dialog of the template
+// `dialog`, once that is the innermost one. A step that opens a further dialog is its dialog's last
+// until that has closed.
+struct Step {
+  int dialog = 0;
+  std::function<void(Hand&)> act;
+};
+
 // What became of a call. Where `error` isn't empty the operation wasn't called.
 struct Outcome {
   std::string result;  // in UTF-8; a number in decimal; empty for an operation that returns nothing
@@ -55,6 +64,8 @@ struct Operation {
   std::function<std::vector<std::string>(const std::string& text)> cut_last;
   std::string result_unless_ok;
   bool returns_something = true;
+  std::vector<Step> steps;                  // of the tour's visit,
+  std::string expected_result;              // which ends in this
   std::vector<std::string> argument_types;  // "integer" or "text"
   // Takes one text an argument.
   std::function<Outcome(const std::vector<std::string>& values)> call;

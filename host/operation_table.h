@@ -11,9 +11,6 @@ namespace orreryui::host {
 
 const std::vector<Operation>& Operations();
 
-// The folder of the albums in the sample data, with its separator. Holds kDataFolder.
-std::string AlbumFolder();
-
 // Null if no operation bears the name.
 const Operation* FindOperation(const std::string& name);
 

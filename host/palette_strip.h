@@ -3,16 +3,19 @@
 #ifndef ORRERYUI_HOST_PALETTE_STRIP_H_
 #define ORRERYUI_HOST_PALETTE_STRIP_H_
 
+#include <QColor>
 #include <QWidget>
+#include <array>
 #include <string>
-
-#include "appearance/palette_file.h"
 
 namespace orreryui::host {
 
 class PaletteStrip : public QWidget {
  public:
   PaletteStrip();
+
+  // Elevations count in levels, steps of 15 m.
+  static constexpr int kLevels = 256;
 
   // Reads the palette `number`, counted from 0, of the list in `folder`, which ends in its
   // separator. One that can't be read is shown as such.
@@ -28,7 +31,7 @@ class PaletteStrip : public QWidget {
   int ColumnOf(int level) const;
 
   QString name_;  // empty: there is nothing to show
-  LevelColours colours_{};
+  std::array<QColor, kLevels> colours_;
 };
 
 }  // namespace orreryui::host

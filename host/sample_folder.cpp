@@ -1,11 +1,11 @@
 #include "host/sample_folder.h"
 
+#include <orreryui/utf8.h>
+
 #include <QCoreApplication>
 #include <QDir>
 #include <QDirIterator>
 #include <QFile>
-
-#include "platform/strings/code_page_932.h"
 
 namespace orreryui::host {
 namespace {

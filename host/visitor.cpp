@@ -7,6 +7,8 @@
 #include <cstdlib>
 #include <utility>
 
+#include "host/widget_hand.h"
+
 namespace orreryui::host {
 namespace {
 
@@ -16,8 +18,8 @@ constexpr qint64 kLastResort = 30'000;  // milliseconds until the process is giv
 
 }  // namespace
 
-Visitor::Visitor(const Visit& visit, QString pictures)
-    : steps_(visit.steps.begin(), visit.steps.end()), pictures_(std::move(pictures)) {
+Visitor::Visitor(const std::vector<Step>& steps, QString pictures)
+    : steps_(steps.begin(), steps.end()), pictures_(std::move(pictures)) {
   since_last_step_.start();
   PlanNextLook();
 }
@@ -51,7 +53,7 @@ void Visitor::Act(QWidget& dialog) {
   const Step step = steps_.front();
   steps_.pop_front();
   since_last_step_.restart();
-  Hand hand(
+  WidgetHand hand(
       dialog, [this](const QString& failure) { failures_ += failure; },
       [this] {
         picture_files_ += QString("%1-%2.png").arg(pictures_).arg(picture_files_.size() + 1);

@@ -7,7 +7,7 @@
 #include <QStringList>
 #include <deque>
 
-#include "host/visit.h"
+#include "host/operation.h"
 
 namespace orreryui::host {
 
@@ -16,7 +16,7 @@ namespace orreryui::host {
 class Visitor : public QObject {
  public:
   // Pictures are called `pictures` with a number and ".png" behind it.
-  Visitor(const Visit& visit, QString pictures);
+  Visitor(const std::vector<Step>& steps, QString pictures);
 
   // What went wrong so far, the steps that weren't reached included.
   QStringList Failures() const;

@@ -5,6 +5,12 @@
 #include <QPushButton>
 
 #include "host/visitor.h"
+#include "templates/album_regist.h"
+#include "templates/album_update.h"
+#include "templates/data_source.h"
+#include "templates/legend.h"
+#include "templates/map_type.h"
+#include "templates/palette.h"
 
 namespace orreryui::host {
 namespace {
@@ -18,7 +24,7 @@ class HostWindowTest : public testing::Test {
 
   // Presses the button of the window and plays the visit in what opens.
   void CallAndPlay(const std::vector<Step>& steps) {
-    const Visitor visitor({"", steps, ""}, "");
+    const Visitor visitor(steps, "");
     window_.findChild<QPushButton*>("call")->click();
     EXPECT_EQ(visitor.Failures().join('\n').toStdString(), "");
   }
@@ -36,11 +42,11 @@ class HostWindowTest : public testing::Test {
 TEST_F(HostWindowTest, PassesInWhatTheLastCallHandedBack) {
   Choose("OnDataSourceSet");
   const auto toggle_and_pick = [](Hand& hand) {
-    hand.Click(1020);
-    hand.PickFromCombo(135, 1);
-    hand.Click(1);
+    hand.Click(data_source::kUseCommonArea);
+    hand.PickFromCombo(data_source::kFiles, 1);
+    hand.Click(IDOK);
   };
-  CallAndPlay({{134, toggle_and_pick}});
+  CallAndPlay({{data_source::kTemplate.number, toggle_and_pick}});
   EXPECT_EQ(FieldValue(0), "1");
   EXPECT_EQ(FieldValue(2), "鎌倉の寺社");
   EXPECT_EQ(Editor("SELECTED").text(), "1");
@@ -48,7 +54,7 @@ TEST_F(HostWindowTest, PassesInWhatTheLastCallHandedBack) {
 
   Choose("OnRengeConfirm");
   Choose("OnDataSourceSet");
-  CallAndPlay({{134, [](Hand& hand) { hand.Click(1); }}});
+  CallAndPlay({{data_source::kTemplate.number, [](Hand& hand) { hand.Click(IDOK); }}});
   EXPECT_EQ(FieldValue(0), "1");
   EXPECT_EQ(FieldValue(1), "off");
 }
@@ -61,16 +67,16 @@ TEST_F(HostWindowTest, TheKeyboardGoesFromTheArgumentsToTheCallAndALongValueLeav
     next = next->nextInFocusChain();
   } while (!(next->focusPolicy() & Qt::TabFocus));
   EXPECT_EQ(next->objectName(), "call");
-  CallAndPlay({{159, [](Hand& hand) { hand.Click(1); }}});
+  CallAndPlay({{map_type::kTemplate.number, [](Hand& hand) { hand.Click(IDOK); }}});
   auto* const fields = window_.findChild<QTableWidget*>("fields");
   EXPECT_GE(fields->columnWidth(2), fields->viewport()->width() / 3);
 }
 
 // The colour of the strip at a level, from its column in the middle of the level.
 QColor ColourAt(PaletteStrip& strip, int level) {
-  strip.resize(kLevels * 3, strip.height());
+  strip.resize(PaletteStrip::kLevels * 3, strip.height());
   const QRect bar = strip.Bar();
-  const int column = bar.left() + (2 * level + 1) * bar.width() / (2 * kLevels);
+  const int column = bar.left() + (2 * level + 1) * bar.width() / (2 * PaletteStrip::kLevels);
   return strip.grab().toImage().pixelColor(column, bar.center().y());
 }
 
@@ -83,10 +89,10 @@ TEST_F(HostWindowTest, ShowsTheChosenPaletteOverTheElevations) {
   EXPECT_FALSE(strip.isHidden());
   EXPECT_EQ(strip.accessibleName().toStdString(), "Palette 自然な起伏");
   const auto pick = [](Hand& hand) {
-    hand.PickFromList(1029, 4);
-    hand.Click(1);
+    hand.PickFromList(palette::kNames, 4);
+    hand.Click(IDOK);
   };
-  CallAndPlay({{177, pick}});
+  CallAndPlay({{palette::kTemplate.number, pick}});
   EXPECT_EQ(strip.accessibleName().toStdString(), "Palette 白黒（濃淡）");
   const QColor sea(std::stoi(FieldValue(1)), std::stoi(FieldValue(2)), std::stoi(FieldValue(3)));
   EXPECT_EQ(ColourAt(strip, 0), sea);
@@ -98,7 +104,7 @@ TEST_F(HostWindowTest, ShowsTheChosenPaletteOverTheElevations) {
   EXPECT_EQ(strip.accessibleName().toStdString(), "Palette 白黒（濃淡）");
 
   Editor("PALETTE").setText("99");
-  CallAndPlay({{158, [](Hand& hand) { hand.Click(1); }}});
+  CallAndPlay({{legend::kTemplate.number, [](Hand& hand) { hand.Click(IDOK); }}});
   EXPECT_EQ(strip.accessibleName(), "No palette");
 }
 
@@ -106,12 +112,12 @@ TEST_F(HostWindowTest, KeepsThePointOfEachAlbum) {
   const auto& points = *window_.findChild<PointList*>("points");
   Choose("OnDLLAlbumRegist");
   const auto name_the_point = [](Hand& hand) {
-    hand.Type(101, "由比ヶ浜");
-    hand.Type(104, "海岸");
-    hand.Click(1);
+    hand.Type(album_regist::kPlace, "由比ヶ浜");
+    hand.Type(album_regist::kItem, "海岸");
+    hand.Click(IDOK);
   };
   Editor("LATITUDE").setText("35.3081");
-  CallAndPlay({{148, name_the_point}});
+  CallAndPlay({{album_regist::kTemplate.number, name_the_point}});
   ASSERT_EQ(points.count(), 2);
   EXPECT_EQ(points.item(1)->text().toStdString(), "由比ヶ浜, 海岸");
   EXPECT_EQ(Editor("NUMBER").text(), "3");
@@ -121,10 +127,10 @@ TEST_F(HostWindowTest, KeepsThePointOfEachAlbum) {
   EXPECT_EQ(Editor("LATITUDE").text(), "35.3081");
   EXPECT_TRUE(Editor("ALBUM").text().endsWith("album2.alb"));
   const auto rename = [](Hand& hand) {
-    hand.Type(129, "材木座");
-    hand.Click(1);
+    hand.Type(album_update::kPlace, "材木座");
+    hand.Click(IDOK);
   };
-  CallAndPlay({{147, rename}});
+  CallAndPlay({{album_update::kTemplate.number, rename}});
   ASSERT_EQ(points.count(), 2);
   EXPECT_EQ(points.item(1)->text().toStdString(), "材木座, 海岸");
 
@@ -141,7 +147,8 @@ TEST_F(HostWindowTest, KeepsThePointOfEachAlbum) {
   EXPECT_EQ(Editor("PLACE").text(), "typed") << "a row with the focus alone isn't taken";
 
   list->setCurrentRow(0);
-  CallAndPlay({{147, [](Hand& hand) { hand.Click(121); }}});
+  CallAndPlay({{album_update::kTemplate.number,
+                [](Hand& hand) { hand.Click(album_update::kDeleteAlbum); }}});
   ASSERT_EQ(points.count(), 1) << "a deleted album has no point";
   EXPECT_EQ(Editor("PLACE").text().toStdString(), "材木座");
 }

@@ -27,7 +27,7 @@ class VisitorTest : public testing::Test {
   }
 
   std::vector<std::string> FailuresOf(const std::vector<Step>& steps) {
-    const Visitor visitor({"", steps, ""}, pictures_.filePath("picture"));
+    const Visitor visitor(steps, pictures_.filePath("picture"));
     dialog_.exec();
     std::vector<std::string> failures;
     for (const QString& failure : visitor.Failures()) failures.push_back(failure.toStdString());

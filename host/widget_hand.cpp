@@ -1,4 +1,4 @@
-#include "host/hand.h"
+#include "host/widget_hand.h"
 
 #include <QAbstractButton>
 #include <QAbstractItemView>
@@ -32,36 +32,36 @@ void PressKey(QWidget& widget, Qt::Key key, Qt::KeyboardModifiers modifiers = Qt
 
 }  // namespace
 
-Hand::Hand(QWidget& dialog, std::function<void(const QString&)> fail,
-           std::function<QString()> picture)
+WidgetHand::WidgetHand(QWidget& dialog, std::function<void(const QString&)> fail,
+                       std::function<QString()> picture)
     : dialog_(dialog), fail_(std::move(fail)), picture_(std::move(picture)) {}
 
 template <typename Widget>
-Widget* Hand::Find(int control) {
+Widget* WidgetHand::Find(int control) {
   auto* const widget = dialog_.findChild<Widget*>(QString::number(control));
   if (widget && widget->isVisible() && widget->isEnabled()) return widget;
   fail_(QString("dialog %1 has no control %2 to use").arg(dialog_.objectName()).arg(control));
   return nullptr;
 }
 
-void Hand::Click(int control) {
+void WidgetHand::Click(int control) {
   if (auto* const button = Find<QAbstractButton>(control)) {
     ClickMouse(*button, button->rect().center());
   }
 }
 
 // By an input method, as Japanese text is typed.
-void Hand::Type(int control, const QString& text) {
+void WidgetHand::Type(int control, const std::string& text) {
   auto* const edit = Find<QWidget>(control);
   if (!edit) return;
   edit->setFocus(Qt::MouseFocusReason);
   PressKey(*edit, Qt::Key_A, Qt::ControlModifier);
   QInputMethodEvent commit;
-  commit.setCommitString(text);
+  commit.setCommitString(QString::fromStdString(text));
   QApplication::sendEvent(edit, &commit);
 }
 
-void Hand::PickFromCombo(int control, int row) {
+void WidgetHand::PickFromCombo(int control, int row) {
   auto* const combo = Find<QComboBox>(control);
   if (!combo) return;
   combo->setFocus(Qt::MouseFocusReason);
@@ -71,7 +71,7 @@ void Hand::PickFromCombo(int control, int row) {
   PressKey(*combo->view(), Qt::Key_Return);
 }
 
-void Hand::PickFromList(int control, int row) {
+void WidgetHand::PickFromList(int control, int row) {
   auto* const widget = Find<QWidget>(control);
   if (!widget) return;
   auto* list = qobject_cast<QAbstractItemView*>(widget);
@@ -82,7 +82,7 @@ void Hand::PickFromList(int control, int row) {
   ClickMouse(*list->viewport(), list->visualRect(index).center());
 }
 
-void Hand::TakePicture() {
+void WidgetHand::TakePicture() {
   const QString file = picture_();
   if (!dialog_.grab().save(file)) fail_("can't write the picture " + file);
 }

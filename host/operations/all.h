@@ -1,0 +1,21 @@
+// The operations, one file each: what a host passes in and gets back, and the tour's visit.
+#ifndef ORRERYUI_HOST_OPERATIONS_ALL_H_
+#define ORRERYUI_HOST_OPERATIONS_ALL_H_
+
+#include "host/operation.h"
+
+namespace orreryui::host {
+
+Operation MapTypeSet();
+Operation MapPalleteSet();
+Operation LegendElevetion();
+Operation DataSourceSet();
+Operation DllAlbumRegist();
+Operation AlbumUpdate();
+Operation TextDisplay();
+Operation MemoDisplay();
+Operation RangeConfirm();
+
+}  // namespace orreryui::host
+
+#endif  // ORRERYUI_HOST_OPERATIONS_ALL_H_
