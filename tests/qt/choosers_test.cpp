@@ -10,8 +10,10 @@
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QSettings>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTimer>
 #include <QToolTip>
 
 #include "tests/qt/plugin.h"
@@ -21,9 +23,12 @@ namespace {
 
 class Choosers : public testing::Test {
  protected:
-  // The test answers Qt's own choosers, not the desktop's.
-  Choosers() { QApplication::setAttribute(Qt::AA_DontUseNativeDialogs); }
+  // Qt keeps folders and widths of its chooser in a file of the user's.
+  Choosers() {
+    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, settings_.path());
+  }
 
+  const QTemporaryDir settings_;
   FrontEnd& front_end_ = *LoadFrontEnd();
 };
 
@@ -62,11 +67,34 @@ class FileChooser : public Choosers {
     request_.filters = {{"テキスト", {"*.txt", "*.dat"}}};
   }
 
-  static void Type(QWidget& front, const QString& name) {
+  enum class Hand { kKeyboard, kMouse };
+  static constexpr Hand kHands[] = {Hand::kKeyboard, Hand::kMouse};
+
+  static void Type(QWidget& front, const QString& name, Hand hand = Hand::kKeyboard) {
+    front.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&front));
     auto* const edit = front.findChild<QLineEdit*>("fileNameEdit");
+    QTest::mouseClick(edit, Qt::LeftButton);
     edit->selectAll();
-    edit->insert(name);
-    QTest::keyClick(edit, Qt::Key_Return);
+    name.isEmpty() ? QTest::keyClick(edit, Qt::Key_Delete) : edit->insert(name);
+    if (hand == Hand::kKeyboard) return QTest::keyClick(edit, Qt::Key_Return);
+    auto* const buttons = front.findChild<QDialogButtonBox*>();
+    QTest::mouseClick(buttons->button(QDialogButtonBox::Open), Qt::LeftButton);
+  }
+
+  static void CloseBox() {
+    auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+    if (box != nullptr) box->close();
+  }
+
+  // What comes of the name, whether or not it brings up a box.
+  std::string Choose(const QString& name, Hand hand) {
+    ThenInFront([&](QWidget& front) {
+      QTimer::singleShot(0, CloseBox);
+      Type(front, name, hand);
+      if (front.isVisible()) front.close();
+    });
+    return front_end_.ChooseFile(request_).value_or("");
   }
 
   std::string InFolder(const QString& name) { return folder_.filePath(name).toStdString(); }
@@ -84,6 +112,7 @@ TEST_F(FileChooser, StartsFromTheNameAndIsJapanese) {
   request_.must_exist = true;
   ThenInFront([](QWidget& front) {
     auto& dialog = static_cast<QFileDialog&>(front);
+    EXPECT_TRUE(dialog.testOption(QFileDialog::DontUseNativeDialog));
     EXPECT_EQ(dialog.findChild<QLineEdit*>("fileNameEdit")->text(), "図.txt");
     EXPECT_THAT(dialog.nameFilters(), testing::ElementsAre("テキスト (*.txt *.dat)"));
     EXPECT_EQ(dialog.labelText(QFileDialog::Reject), "キャンセル");
@@ -110,69 +139,73 @@ TEST_F(FileChooser, FiltersAreLabelledByTheirLabelsAndWorkByTheirPatterns) {
   front_end_.ChooseFile(request_);
 }
 
-TEST_F(FileChooser, CompletesANewNameWithTheExtension) {
-  request_.default_extension = "dat";
-  ThenInFront([](QWidget& front) { Type(front, "new"); });
-  EXPECT_EQ(front_end_.ChooseFile(request_), InFolder("new.dat"));
-}
-
-TEST_F(FileChooser, TakesAnExistingNameWithoutAQuestion) {
-  ThenInFront([](QWidget& front) { static_cast<QDialog&>(front).accept(); });
-  EXPECT_EQ(front_end_.ChooseFile(request_), InFolder("図.txt"));
-}
-
-TEST_F(FileChooser, FindsAFileWithTheExtensionOrWithout) {
-  request_.must_exist = true;
+TEST_F(FileChooser, EnterAndTheButtonTakeTheSameNames) {
+  QDir(folder_.path()).mkdir("sub");
+  for (const char* name : {"README", "README.txt", "Memo.TXT", "Photo.JPG", "何?.txt", "sub/a.b"}) {
+    Make(name);
+  }
   request_.default_extension = "txt";
-  Make("README");
-  Make("README.txt");
-  Make("Memo.TXT");
-  const std::pair<const char*, const char*> cases[] = {{"README", "README"},
-                                                       {"図", "図.txt"},
-                                                       {"図.txt", "図.txt"},
-                                                       {"memo", "Memo.TXT"},
-                                                       {"MEMO.txt", "Memo.TXT"}};
-  for (const auto& [typed, chosen] : cases) {
-    ThenInFront([typed = typed](QWidget& front) { Type(front, typed); });
-    EXPECT_EQ(front_end_.ChooseFile(request_), InFolder(chosen));
+  struct Case {
+    const char* typed;       // a full path if it begins with /
+    const char* chosen;      // null: nothing, as no such file exists
+    const char* chosen_new;  // where files needn't exist
+  };
+  const Case cases[] = {{"図.txt", "図.txt", "図.txt"},
+                        {"図", "図.txt", "図.txt"},
+                        {"README", "README", "README"},
+                        {"memo", "Memo.TXT", "Memo.TXT"},
+                        {"/Photo.JPG", "Photo.JPG", "Photo.JPG"},
+                        {"photo.jpg", "Photo.JPG", "Photo.JPG"},
+                        {"何?.txt", "何?.txt", "何?.txt"},
+                        {"/sub/A.B", "sub/a.b", "sub/a.b"},
+                        {"new", nullptr, "new.txt"},
+                        {"new.b", nullptr, "new.b"}};
+  for (const auto& [typed, chosen, chosen_new] : cases) {
+    const QString name = *typed == '/' ? folder_.path() + typed : typed;
+    for (const Hand hand : kHands) {
+      request_.must_exist = true;
+      EXPECT_EQ(Choose(name, hand), chosen == nullptr ? "" : InFolder(chosen)) << typed;
+      request_.must_exist = false;
+      EXPECT_EQ(Choose(name, hand), InFolder(chosen_new)) << typed;
+    }
   }
 }
 
-TEST_F(FileChooser, StaysOpenForAPathThatCannotBeUsed) {
-  request_.must_exist = true;
-  request_.refused = [](const std::string& path) { return path.ends_with("t.txt") ? "t" : ""; };
+TEST_F(FileChooser, StaysOpenForWhatCannotBeChosen) {
+  QDir(folder_.path()).mkdir("sub");
   Make("t.txt");
-  ThenInFront([](QWidget& front) {
-    Type(front, "t.txt");
-    EXPECT_TRUE(front.isVisible());
-    EXPECT_TRUE(QToolTip::text().contains("t"));
-    Type(front, "図.txt");
-  });
-  EXPECT_EQ(front_end_.ChooseFile(request_), InFolder("図.txt"));
-}
-
-TEST_F(FileChooser, StaysOpenForAFileThatMustExistAndDoesNot) {
   request_.must_exist = true;
   request_.default_extension = "txt";
-  ThenInFront([](QWidget& front) {
-    ThenInFront([](QWidget& message) {
-      EXPECT_TRUE(static_cast<QMessageBox&>(message).text().contains("missing"));
-      static_cast<QDialog&>(message).accept();
+  request_.refused = [](const std::string& path) { return path.ends_with("t.txt") ? "t" : ""; };
+  for (const Hand hand : kHands) {
+    ThenInFront([&](QWidget& front) {
+      ThenInFront([](QWidget& message) {
+        EXPECT_TRUE(static_cast<QMessageBox&>(message).text().contains("missing.txt"));
+        static_cast<QDialog&>(message).accept();
+      });
+      Type(front, "missing", hand);
+      for (const char* typed : {"t.txt", "t", "T"}) {
+        QToolTip::hideText();
+        Type(front, typed, hand);
+        EXPECT_TRUE(QToolTip::text().endsWith(": t"));
+      }
+      Type(front, "", hand);
+      Type(front, "sub", hand);
+      EXPECT_TRUE(front.isVisible());
+      EXPECT_EQ(front.findChild<QLineEdit*>("fileNameEdit")->text(), "");
+      Type(front, "../図.txt", hand);
     });
-    Type(front, "missing");
-    EXPECT_TRUE(front.isVisible());
-    static_cast<QDialog&>(front).reject();
-  });
-  EXPECT_EQ(front_end_.ChooseFile(request_), std::nullopt);
+    EXPECT_EQ(front_end_.ChooseFile(request_), InFolder("図.txt"));
+  }
 }
 
 TEST_F(FileChooser, WildcardsSayWhatIsListedAndLeaveTheTypes) {
   QDir(folder_.path()).mkdir("sub");
   request_.filters.push_back({"All", {"*"}});
   request_.start_name = InFolder("*.txt");
-  for (const bool must_exist : {true, false}) {
-    request_.must_exist = must_exist;
-    ThenInFront([this](QWidget& front) {
+  for (const Hand hand : kHands) {
+    request_.must_exist = hand == Hand::kMouse;
+    ThenInFront([this, hand](QWidget& front) {
       auto& dialog = static_cast<QFileDialog&>(front);
       auto* const name = dialog.findChild<QLineEdit*>("fileNameEdit");
       auto* const types = front.findChild<QComboBox*>("fileTypeCombo");
@@ -181,7 +214,7 @@ TEST_F(FileChooser, WildcardsSayWhatIsListedAndLeaveTheTypes) {
       static_cast<QDialog&>(front).accept();
       EXPECT_TRUE(dialog.isVisible());
       EXPECT_EQ(types->count(), 2);
-      Type(front, "sub/a?.*");
+      Type(front, "sub/a?.*", hand);
       EXPECT_TRUE(dialog.isVisible());
       EXPECT_EQ(dialog.directory(), QDir(folder_.filePath("sub")));
       EXPECT_EQ(name->text(), "a?.*");
@@ -192,13 +225,6 @@ TEST_F(FileChooser, WildcardsSayWhatIsListedAndLeaveTheTypes) {
     });
     EXPECT_EQ(front_end_.ChooseFile(request_), std::nullopt);
   }
-}
-
-TEST_F(FileChooser, AFileMayBeNamedLikeAPattern) {
-  Make("何?.txt");
-  request_.must_exist = true;
-  ThenInFront([](QWidget& front) { Type(front, "何?.txt"); });
-  EXPECT_EQ(front_end_.ChooseFile(request_), InFolder("何?.txt"));
 }
 
 TEST_F(FileChooser, ANameWithoutAFolderStartsWhereTheLastFileWasChosen) {
@@ -243,6 +269,7 @@ TEST_F(ColourChooser, IsJapaneseInAHostThatIsNot) {
 TEST_F(ColourChooser, HandsBackTheColourWithRedInTheLowByte) {
   ThenInFront([](QWidget& front) {
     auto& dialog = static_cast<QColorDialog&>(front);
+    EXPECT_TRUE(dialog.testOption(QColorDialog::DontUseNativeDialog));
     EXPECT_EQ(dialog.currentColor(), QColor(0x11, 0x22, 0x33));
     auto* const buttons = dialog.findChild<QDialogButtonBox*>();
     EXPECT_EQ(buttons->button(QDialogButtonBox::Cancel)->text(), "キャンセル");
