@@ -10,6 +10,7 @@
 #include <QMessageBox>
 #include <QPushButton>
 
+#include "front_ends/qt/file_columns.h"
 #include "front_ends/qt/refusal.h"
 #include "front_ends/qt/swatch_button.h"
 #include "front_ends/qt/widget_text.h"
@@ -109,15 +110,6 @@ QStringList NameFilters(const FileChooserRequest& request) {
   return filters;
 }
 
-void LabelInJapanese(QFileDialog& dialog) {
-  dialog.setWindowTitle(QStringLiteral("ファイルを開く"));
-  dialog.setLabelText(QFileDialog::LookIn, QStringLiteral("場所:"));
-  dialog.setLabelText(QFileDialog::FileName, QStringLiteral("ファイル名:"));
-  dialog.setLabelText(QFileDialog::FileType, QStringLiteral("ファイルの種類:"));
-  dialog.setLabelText(QFileDialog::Accept, QStringLiteral("開く"));
-  dialog.setLabelText(QFileDialog::Reject, QStringLiteral("キャンセル"));
-}
-
 // A name without a folder leaves the chooser in the folder where the last file was chosen.
 void StartAt(QFileDialog& dialog, const QString& name) {
   if (name.isEmpty()) return;
@@ -129,6 +121,7 @@ void StartAt(QFileDialog& dialog, const QString& name) {
 }  // namespace
 
 std::optional<std::string> AskFile(QWidget* owner, const FileChooserRequest& request) {
+  FileKinds kinds;
   FileChooser dialog(owner, request);
   MakeModal(dialog);
   // The desktop's chooser would close before a name can be refused or completed.
@@ -138,7 +131,9 @@ std::optional<std::string> AskFile(QWidget* owner, const FileChooserRequest& req
   // The label alone is shown, which may name the patterns itself.
   dialog.setOption(QFileDialog::HideNameFilterDetails);
   dialog.setNameFilters(NameFilters(request));
-  LabelInJapanese(dialog);
+  dialog.setLabelText(QFileDialog::Reject, QStringLiteral("キャンセル"));
+  dialog.setIconProvider(&kinds);
+  FitFileColumns(dialog);
   StartAt(dialog, FromUtf8(request.start_name));
   if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return std::nullopt;
   return ToUtf8(dialog.selectedFiles().front());

@@ -1,5 +1,6 @@
 #include <gmock/gmock.h>
 
+#include <QAction>
 #include <QApplication>
 #include <QColorDialog>
 #include <QComboBox>
@@ -8,13 +9,16 @@
 #include <QFileSystemModel>
 #include <QLabel>
 #include <QLineEdit>
+#include <QListView>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QRegularExpression>
 #include <QSettings>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
 #include <QToolTip>
+#include <QTreeView>
 
 #include "tests/qt/plugin.h"
 
@@ -236,6 +240,64 @@ TEST_F(FileChooser, ANameWithoutAFolderStartsWhereTheLastFileWasChosen) {
     static_cast<QDialog&>(front).reject();
   });
   EXPECT_EQ(front_end_.ChooseFile(request_), std::nullopt);
+}
+
+// Run at several scales, in a host that isn't Japanese.
+class FitFileChooser : public FileChooser {
+ protected:
+  static QStringList Texts(QWidget& front) {
+    QStringList texts{front.windowTitle()};
+    for (const auto* widget : front.findChildren<QWidget*>()) {
+      texts << widget->toolTip() << widget->accessibleName() << widget->accessibleDescription();
+    }
+    for (const auto* label : front.findChildren<QLabel*>()) texts << label->text();
+    for (const auto* button : front.findChildren<QAbstractButton*>()) texts << button->text();
+    for (const auto* action : front.findChildren<QAction*>()) texts << action->text();
+    return texts;
+  }
+
+  static QStringList Texts(const QAbstractItemModel& model, const QModelIndex& parent, int column) {
+    QStringList texts{model.headerData(column, Qt::Horizontal).toString()};
+    for (int row = 0; row < model.rowCount(parent); ++row) {
+      texts << model.index(row, column, parent).data().toString();
+    }
+    return texts;
+  }
+
+  static bool HasRoom(const QAbstractItemView& view, int column, int width) {
+    return width >= view.sizeHintForColumn(column);
+  }
+};
+
+TEST_F(FitFileChooser, IsJapaneseAndHasRoomForItsTexts) {
+  QDir(folder_.path()).mkdir("写真");
+  Make("とても長い名前の図がもう一つここにある.図");
+  request_.filters = {{"図", {"*"}}};
+  for (int time : {1, 2}) {
+    SCOPED_TRACE(time);
+    ThenInFront([](QWidget& front) {
+      auto* const list = front.findChild<QTreeView*>("treeView");
+      auto* const side = front.findChild<QListView*>("sidebar");
+      const QAbstractItemModel& files = *list->model();
+      EXPECT_TRUE(QTest::qWaitFor([&] { return files.rowCount(list->rootIndex()) == 3; }));
+      const QStringList texts = Texts(front) + Texts(files, list->rootIndex(), 0) +
+                                Texts(files, list->rootIndex(), 2) +
+                                Texts(*side->model(), QModelIndex(), 0).mid(1, 1);
+      for (QString text : texts) {
+        text.remove("txt", Qt::CaseInsensitive);
+        EXPECT_FALSE(text.contains(QRegularExpression("[A-Za-z]{2}"))) << text.toStdString();
+      }
+      EXPECT_TRUE(HasRoom(*side, 0, side->viewport()->width()));
+      for (int column = 0; column < files.columnCount(); ++column) {
+        EXPECT_TRUE(QTest::qWaitFor([&] {
+          return HasRoom(*list, column, list->columnWidth(column));
+        })) << column;
+        list->setColumnWidth(column, 9);  // is kept for the next time
+      }
+      front.close();
+    });
+    front_end_.ChooseFile(request_);
+  }
 }
 
 class ColourChooser : public Choosers {};
