@@ -100,6 +100,8 @@ constexpr Label kLabels[] = {
     {"QScrollBar", "Page right", u"1画面右へ"},
     {"QScrollBar", "Scroll left", u"左へ"},
     {"QScrollBar", "Scroll right", u"右へ"},
+    {"QTabBar", "Scroll Left", u"左へ"},
+    {"QTabBar", "Scroll Right", u"右へ"},
     {"QPlatformTheme", "OK", u"OK"},
     {"QPlatformTheme", "Open", u"開く"},
     {"QPlatformTheme", "Cancel", u"キャンセル"},
