@@ -91,13 +91,14 @@ bool CDlgAlbumRegist::LacksAPart() const {
 
 // Giving up empties the box.
 void CDlgAlbumRegist::OnChooseTextFile() {
-  m_strTextFile = ChooseOpenFile("txt", "*.txt", "地点 files (*.txt)|*.txt"_sj);
+  m_strTextFile = ChooseOpenFile("txt", "*.txt", "地点 files (*.txt)|*.txt"_sj, m_strTextFile);
   SetDlgItemText(kTextFile, m_strTextFile);
 }
 
 // Giving up leaves the box alone.
 void CDlgAlbumRegist::OnChoosePicture() {
-  const CString path = ChooseOpenFile("bmp", "*.bmp", "画像 files (*.bmp)|*.bmp"_sj);
+  const CString path =
+      ChooseOpenFile("bmp", "*.bmp", "画像 files (*.bmp)|*.bmp"_sj, m_strPictureFile);
   if (path.IsEmpty()) return;
   m_strPictureFile = path;
   SetDlgItemText(kPictureFile, m_strPictureFile);

@@ -16,11 +16,18 @@ FileFilter MakeFilter(CString filter) {
 // Names without a dot are among them, too.
 FileFilter AllFiles() { return {"All files (*.*)", {"*"}}; }
 
+// With the separator; empty for a name alone.
+std::string FolderOf(const char* path) {
+  const std::string native = NativePath(path);
+  return native.substr(0, native.rfind('/') + 1);
+}
+
 }  // namespace
 
-CString ChooseOpenFile(const char* default_extension, const char* start_name, const char* filter) {
+CString ChooseOpenFile(const char* default_extension, const char* start_name, const char* filter,
+                       const char* current) {
   MessageBeep();
-  const auto native = ChooseFile({.start_name = ToUtf8(start_name),
+  const auto native = ChooseFile({.start_name = FolderOf(current) + ToUtf8(start_name),
                                   .default_extension = ToUtf8(default_extension),
                                   .must_exist = true,
                                   .filters = {MakeFilter(filter), AllFiles()},

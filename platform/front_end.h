@@ -197,7 +197,8 @@ struct FileFilter {
 };
 
 struct FileChooserRequest {
-  std::string start_name;         // what the name field holds at the start; may hold wildcards
+  std::string start_name;         // what the name field holds at the start; may hold wildcards,
+                                  // and the folder to start in
   std::string default_extension;  // without the dot; for a name that has none and isn't there
   bool must_exist = false;
   std::vector<FileFilter> filters;

@@ -7,8 +7,10 @@
 #include <QFileInfo>
 #include <QFileSystemModel>
 #include <QLineEdit>
+#include <QMessageBox>
 #include <QPushButton>
 
+#include "front_ends/qt/file_columns.h"
 #include "front_ends/qt/refusal.h"
 #include "front_ends/qt/swatch_button.h"
 #include "front_ends/qt/widget_text.h"
@@ -25,7 +27,9 @@ void MakeModal(QDialog& dialog) {
   dialog.setWindowModality(Qt::ApplicationModal);
 }
 
-// A file chooser in whose name field wildcards say which files to list, unless a file is named so.
+// Qt's own file chooser, in which each name means the same whether Enter takes it or the button:
+// wildcards say which files to list, unless a file is named so, and a name may lack its extension
+// and be written in other case.
 class FileChooser : public QFileDialog {
  public:
   // The request outlives the chooser.
@@ -34,17 +38,18 @@ class FileChooser : public QFileDialog {
 
   void accept() override {
     const QStringList chosen = selectedFiles();
-    const QFileInfo file(chosen.isEmpty() ? QString() : chosen.front());
-    if (HasWildcard(file.fileName()) && !file.exists()) return ListFiles(file);
-    if (request_.must_exist && !file.exists()) FindFile(file);
-    if (request_.refused) {
-      const std::string refused = request_.refused(ToUtf8(file.filePath()));
-      if (!refused.empty()) return TellRefusal(*this, refused);
-    }
-    QFileDialog::accept();
+    const QFileInfo typed(chosen.isEmpty() ? QString() : chosen.front());
+    if (typed.isDir()) return EnterFolder();
+    if (HasWildcard(typed.fileName()) && !typed.exists()) return ListFiles(typed);
+    Choose(typed.exists() ? typed : MeantBy(typed));
   }
 
  private:
+  void EnterFolder() {
+    QFileDialog::accept();
+    ShowName(QString());
+  }
+
   // The types of files that the user can choose from stay as they are.
   void ListFiles(const QFileInfo& pattern) {
     if (pattern.dir().exists()) setDirectory(pattern.dir());
@@ -53,15 +58,36 @@ class FileChooser : public QFileDialog {
     if (files != nullptr) files->setNameFilters({pattern.fileName()});
   }
 
-  // A name may lack its extension, and be written in other case.
-  void FindFile(const QFileInfo& typed) {
-    const QString completed =
-        typed.fileName() + QLatin1Char('.') + FromUtf8(request_.default_extension);
+  void Choose(const QFileInfo& file) {
+    if (request_.must_exist && !file.exists()) return TellMissing(file.filePath());
+    if (request_.refused) {
+      const std::string refused = request_.refused(ToUtf8(file.filePath()));
+      if (!refused.empty()) return TellRefusal(*this, refused);
+    }
+    ShowName(file.filePath());
+    QFileDialog::accept();
+  }
+
+  QFileInfo MeantBy(const QFileInfo& typed) const {
+    const QString extension = FromUtf8(request_.default_extension);
+    const bool complete = extension.isEmpty() || !typed.suffix().isEmpty();
+    const QString name =
+        complete ? typed.fileName() : typed.fileName() + QLatin1Char('.') + extension;
     for (const QFileInfo& file : typed.dir().entryInfoList(QDir::Files)) {
       const bool same = file.fileName().compare(typed.fileName(), Qt::CaseInsensitive) == 0;
-      const bool longer = file.fileName().compare(completed, Qt::CaseInsensitive) == 0;
-      if (same || (longer && typed.suffix().isEmpty())) return ShowName(file.filePath());
+      if (same || file.fileName().compare(name, Qt::CaseInsensitive) == 0) return file;
     }
+    return QFileInfo(typed.dir(), name);
+  }
+
+  void TellMissing(const QString& path) {
+    QMessageBox box(
+        QMessageBox::Warning, windowTitle(),
+        QStringLiteral("%1\nファイルがありません。\nファイル名を確かめてください。").arg(path),
+        QMessageBox::Ok, this);
+    box.setTextFormat(Qt::PlainText);
+    MakeModal(box);
+    box.exec();
   }
 
   // selectFile leaves the name field alone while it has the focus.
@@ -84,17 +110,6 @@ QStringList NameFilters(const FileChooserRequest& request) {
   return filters;
 }
 
-void LabelInJapanese(QFileDialog& dialog, bool must_exist) {
-  dialog.setWindowTitle(must_exist ? QStringLiteral("ファイルを開く")
-                                   : QStringLiteral("名前を付けて保存"));
-  dialog.setLabelText(QFileDialog::LookIn, QStringLiteral("場所:"));
-  dialog.setLabelText(QFileDialog::FileName, QStringLiteral("ファイル名:"));
-  dialog.setLabelText(QFileDialog::FileType, QStringLiteral("ファイルの種類:"));
-  dialog.setLabelText(QFileDialog::Accept,
-                      must_exist ? QStringLiteral("開く") : QStringLiteral("保存"));
-  dialog.setLabelText(QFileDialog::Reject, QStringLiteral("キャンセル"));
-}
-
 // A name without a folder leaves the chooser in the folder where the last file was chosen.
 void StartAt(QFileDialog& dialog, const QString& name) {
   if (name.isEmpty()) return;
@@ -106,17 +121,19 @@ void StartAt(QFileDialog& dialog, const QString& name) {
 }  // namespace
 
 std::optional<std::string> AskFile(QWidget* owner, const FileChooserRequest& request) {
+  FileKinds kinds;
   FileChooser dialog(owner, request);
   MakeModal(dialog);
-  dialog.setAcceptMode(request.must_exist ? QFileDialog::AcceptOpen : QFileDialog::AcceptSave);
-  dialog.setFileMode(request.must_exist ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
-  // Whether an existing file is added to or replaced is decided elsewhere.
-  dialog.setOption(QFileDialog::DontConfirmOverwrite);
+  // The desktop's chooser would close before a name can be refused or completed.
+  dialog.setOption(QFileDialog::DontUseNativeDialog);
+  // The button would stay dark for a name that is still to be completed if files had to exist.
+  dialog.setFileMode(QFileDialog::AnyFile);
   // The label alone is shown, which may name the patterns itself.
   dialog.setOption(QFileDialog::HideNameFilterDetails);
   dialog.setNameFilters(NameFilters(request));
-  if (!request.must_exist) dialog.setDefaultSuffix(FromUtf8(request.default_extension));
-  LabelInJapanese(dialog, request.must_exist);
+  dialog.setLabelText(QFileDialog::Reject, QStringLiteral("キャンセル"));
+  dialog.setIconProvider(&kinds);
+  FitFileColumns(dialog);
   StartAt(dialog, FromUtf8(request.start_name));
   if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return std::nullopt;
   return ToUtf8(dialog.selectedFiles().front());
@@ -125,6 +142,7 @@ std::optional<std::string> AskFile(QWidget* owner, const FileChooserRequest& req
 std::optional<std::uint32_t> AskColour(QWidget* owner, std::uint32_t start) {
   QColorDialog dialog(ToColor(start), owner);
   MakeModal(dialog);
+  dialog.setOption(QColorDialog::DontUseNativeDialog);
   dialog.setWindowTitle(QStringLiteral("色の設定"));
   if (auto* buttons = dialog.findChild<QDialogButtonBox*>()) {
     buttons->button(QDialogButtonBox::Ok)->setText(QStringLiteral("OK"));

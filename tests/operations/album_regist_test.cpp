@@ -144,7 +144,7 @@ TEST_F(AlbumRegistTest, GivingUpThePictureLeavesItsBoxAlone) {
   Call();
   EXPECT_EQ(folder.Read(kAlbum), "m 35.0 135.0  \\x\\p.jpg\r\n");
   const FileChooserRequest& request = script.LastFileRequest();
-  EXPECT_EQ(request.start_name, "*.bmp");
+  EXPECT_EQ(request.start_name, "/x/*.bmp") << "the folder of the picture chosen before";
   EXPECT_EQ(request.default_extension, "bmp");
   ASSERT_EQ(request.filters.size(), 2u);
   EXPECT_EQ(request.filters[0].label, "画像 files (*.bmp)");

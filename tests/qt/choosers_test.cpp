@@ -1,5 +1,6 @@
 #include <gmock/gmock.h>
 
+#include <QAction>
 #include <QApplication>
 #include <QColorDialog>
 #include <QComboBox>
@@ -8,11 +9,16 @@
 #include <QFileSystemModel>
 #include <QLabel>
 #include <QLineEdit>
+#include <QListView>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QRegularExpression>
+#include <QSettings>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTimer>
 #include <QToolTip>
+#include <QTreeView>
 
 #include "tests/qt/plugin.h"
 
@@ -21,9 +27,12 @@ namespace {
 
 class Choosers : public testing::Test {
  protected:
-  // The test answers Qt's own choosers, not the desktop's.
-  Choosers() { QApplication::setAttribute(Qt::AA_DontUseNativeDialogs); }
+  // Qt keeps folders and widths of its chooser in a file of the user's.
+  Choosers() {
+    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, settings_.path());
+  }
 
+  const QTemporaryDir settings_;
   FrontEnd& front_end_ = *LoadFrontEnd();
 };
 
@@ -62,11 +71,34 @@ class FileChooser : public Choosers {
     request_.filters = {{"テキスト", {"*.txt", "*.dat"}}};
   }
 
-  static void Type(QWidget& front, const QString& name) {
+  enum class Hand { kKeyboard, kMouse };
+  static constexpr Hand kHands[] = {Hand::kKeyboard, Hand::kMouse};
+
+  static void Type(QWidget& front, const QString& name, Hand hand = Hand::kKeyboard) {
+    front.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&front));
     auto* const edit = front.findChild<QLineEdit*>("fileNameEdit");
+    QTest::mouseClick(edit, Qt::LeftButton);
     edit->selectAll();
-    edit->insert(name);
-    QTest::keyClick(edit, Qt::Key_Return);
+    name.isEmpty() ? QTest::keyClick(edit, Qt::Key_Delete) : edit->insert(name);
+    if (hand == Hand::kKeyboard) return QTest::keyClick(edit, Qt::Key_Return);
+    auto* const buttons = front.findChild<QDialogButtonBox*>();
+    QTest::mouseClick(buttons->button(QDialogButtonBox::Open), Qt::LeftButton);
+  }
+
+  static void CloseBox() {
+    auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+    if (box != nullptr) box->close();
+  }
+
+  // What comes of the name, whether or not it brings up a box.
+  std::string Choose(const QString& name, Hand hand) {
+    ThenInFront([&](QWidget& front) {
+      QTimer::singleShot(0, CloseBox);
+      Type(front, name, hand);
+      if (front.isVisible()) front.close();
+    });
+    return front_end_.ChooseFile(request_).value_or("");
   }
 
   std::string InFolder(const QString& name) { return folder_.filePath(name).toStdString(); }
@@ -84,6 +116,7 @@ TEST_F(FileChooser, StartsFromTheNameAndIsJapanese) {
   request_.must_exist = true;
   ThenInFront([](QWidget& front) {
     auto& dialog = static_cast<QFileDialog&>(front);
+    EXPECT_TRUE(dialog.testOption(QFileDialog::DontUseNativeDialog));
     EXPECT_EQ(dialog.findChild<QLineEdit*>("fileNameEdit")->text(), "図.txt");
     EXPECT_THAT(dialog.nameFilters(), testing::ElementsAre("テキスト (*.txt *.dat)"));
     EXPECT_EQ(dialog.labelText(QFileDialog::Reject), "キャンセル");
@@ -110,69 +143,73 @@ TEST_F(FileChooser, FiltersAreLabelledByTheirLabelsAndWorkByTheirPatterns) {
   front_end_.ChooseFile(request_);
 }
 
-TEST_F(FileChooser, CompletesANewNameWithTheExtension) {
-  request_.default_extension = "dat";
-  ThenInFront([](QWidget& front) { Type(front, "new"); });
-  EXPECT_EQ(front_end_.ChooseFile(request_), InFolder("new.dat"));
-}
-
-TEST_F(FileChooser, TakesAnExistingNameWithoutAQuestion) {
-  ThenInFront([](QWidget& front) { static_cast<QDialog&>(front).accept(); });
-  EXPECT_EQ(front_end_.ChooseFile(request_), InFolder("図.txt"));
-}
-
-TEST_F(FileChooser, FindsAFileWithTheExtensionOrWithout) {
-  request_.must_exist = true;
+TEST_F(FileChooser, EnterAndTheButtonTakeTheSameNames) {
+  QDir(folder_.path()).mkdir("sub");
+  for (const char* name : {"README", "README.txt", "Memo.TXT", "Photo.JPG", "何?.txt", "sub/a.b"}) {
+    Make(name);
+  }
   request_.default_extension = "txt";
-  Make("README");
-  Make("README.txt");
-  Make("Memo.TXT");
-  const std::pair<const char*, const char*> cases[] = {{"README", "README"},
-                                                       {"図", "図.txt"},
-                                                       {"図.txt", "図.txt"},
-                                                       {"memo", "Memo.TXT"},
-                                                       {"MEMO.txt", "Memo.TXT"}};
-  for (const auto& [typed, chosen] : cases) {
-    ThenInFront([typed = typed](QWidget& front) { Type(front, typed); });
-    EXPECT_EQ(front_end_.ChooseFile(request_), InFolder(chosen));
+  struct Case {
+    const char* typed;       // a full path if it begins with /
+    const char* chosen;      // null: nothing, as no such file exists
+    const char* chosen_new;  // where files needn't exist
+  };
+  const Case cases[] = {{"図.txt", "図.txt", "図.txt"},
+                        {"図", "図.txt", "図.txt"},
+                        {"README", "README", "README"},
+                        {"memo", "Memo.TXT", "Memo.TXT"},
+                        {"/Photo.JPG", "Photo.JPG", "Photo.JPG"},
+                        {"photo.jpg", "Photo.JPG", "Photo.JPG"},
+                        {"何?.txt", "何?.txt", "何?.txt"},
+                        {"/sub/A.B", "sub/a.b", "sub/a.b"},
+                        {"new", nullptr, "new.txt"},
+                        {"new.b", nullptr, "new.b"}};
+  for (const auto& [typed, chosen, chosen_new] : cases) {
+    const QString name = *typed == '/' ? folder_.path() + typed : typed;
+    for (const Hand hand : kHands) {
+      request_.must_exist = true;
+      EXPECT_EQ(Choose(name, hand), chosen == nullptr ? "" : InFolder(chosen)) << typed;
+      request_.must_exist = false;
+      EXPECT_EQ(Choose(name, hand), InFolder(chosen_new)) << typed;
+    }
   }
 }
 
-TEST_F(FileChooser, StaysOpenForAPathThatCannotBeUsed) {
-  request_.must_exist = true;
-  request_.refused = [](const std::string& path) { return path.ends_with("t.txt") ? "t" : ""; };
+TEST_F(FileChooser, StaysOpenForWhatCannotBeChosen) {
+  QDir(folder_.path()).mkdir("sub");
   Make("t.txt");
-  ThenInFront([](QWidget& front) {
-    Type(front, "t.txt");
-    EXPECT_TRUE(front.isVisible());
-    EXPECT_TRUE(QToolTip::text().contains("t"));
-    Type(front, "図.txt");
-  });
-  EXPECT_EQ(front_end_.ChooseFile(request_), InFolder("図.txt"));
-}
-
-TEST_F(FileChooser, StaysOpenForAFileThatMustExistAndDoesNot) {
   request_.must_exist = true;
   request_.default_extension = "txt";
-  ThenInFront([](QWidget& front) {
-    ThenInFront([](QWidget& message) {
-      EXPECT_TRUE(static_cast<QMessageBox&>(message).text().contains("missing"));
-      static_cast<QDialog&>(message).accept();
+  request_.refused = [](const std::string& path) { return path.ends_with("t.txt") ? "t" : ""; };
+  for (const Hand hand : kHands) {
+    ThenInFront([&](QWidget& front) {
+      ThenInFront([](QWidget& message) {
+        EXPECT_TRUE(static_cast<QMessageBox&>(message).text().contains("missing.txt"));
+        static_cast<QDialog&>(message).accept();
+      });
+      Type(front, "missing", hand);
+      for (const char* typed : {"t.txt", "t", "T"}) {
+        QToolTip::hideText();
+        Type(front, typed, hand);
+        EXPECT_TRUE(QToolTip::text().endsWith(": t"));
+      }
+      Type(front, "", hand);
+      Type(front, "sub", hand);
+      EXPECT_TRUE(front.isVisible());
+      EXPECT_EQ(front.findChild<QLineEdit*>("fileNameEdit")->text(), "");
+      Type(front, "../図.txt", hand);
     });
-    Type(front, "missing");
-    EXPECT_TRUE(front.isVisible());
-    static_cast<QDialog&>(front).reject();
-  });
-  EXPECT_EQ(front_end_.ChooseFile(request_), std::nullopt);
+    EXPECT_EQ(front_end_.ChooseFile(request_), InFolder("図.txt"));
+  }
 }
 
 TEST_F(FileChooser, WildcardsSayWhatIsListedAndLeaveTheTypes) {
   QDir(folder_.path()).mkdir("sub");
   request_.filters.push_back({"All", {"*"}});
   request_.start_name = InFolder("*.txt");
-  for (const bool must_exist : {true, false}) {
-    request_.must_exist = must_exist;
-    ThenInFront([this](QWidget& front) {
+  for (const Hand hand : kHands) {
+    request_.must_exist = hand == Hand::kMouse;
+    ThenInFront([this, hand](QWidget& front) {
       auto& dialog = static_cast<QFileDialog&>(front);
       auto* const name = dialog.findChild<QLineEdit*>("fileNameEdit");
       auto* const types = front.findChild<QComboBox*>("fileTypeCombo");
@@ -181,7 +218,7 @@ TEST_F(FileChooser, WildcardsSayWhatIsListedAndLeaveTheTypes) {
       static_cast<QDialog&>(front).accept();
       EXPECT_TRUE(dialog.isVisible());
       EXPECT_EQ(types->count(), 2);
-      Type(front, "sub/a?.*");
+      Type(front, "sub/a?.*", hand);
       EXPECT_TRUE(dialog.isVisible());
       EXPECT_EQ(dialog.directory(), QDir(folder_.filePath("sub")));
       EXPECT_EQ(name->text(), "a?.*");
@@ -194,13 +231,6 @@ TEST_F(FileChooser, WildcardsSayWhatIsListedAndLeaveTheTypes) {
   }
 }
 
-TEST_F(FileChooser, AFileMayBeNamedLikeAPattern) {
-  Make("何?.txt");
-  request_.must_exist = true;
-  ThenInFront([](QWidget& front) { Type(front, "何?.txt"); });
-  EXPECT_EQ(front_end_.ChooseFile(request_), InFolder("何?.txt"));
-}
-
 TEST_F(FileChooser, ANameWithoutAFolderStartsWhereTheLastFileWasChosen) {
   ThenInFront([](QWidget& front) { static_cast<QDialog&>(front).accept(); });
   EXPECT_EQ(front_end_.ChooseFile(request_), InFolder("図.txt"));
@@ -210,6 +240,64 @@ TEST_F(FileChooser, ANameWithoutAFolderStartsWhereTheLastFileWasChosen) {
     static_cast<QDialog&>(front).reject();
   });
   EXPECT_EQ(front_end_.ChooseFile(request_), std::nullopt);
+}
+
+// Run at several scales, in a host that isn't Japanese.
+class FitFileChooser : public FileChooser {
+ protected:
+  static QStringList Texts(QWidget& front) {
+    QStringList texts{front.windowTitle()};
+    for (const auto* widget : front.findChildren<QWidget*>()) {
+      texts << widget->toolTip() << widget->accessibleName() << widget->accessibleDescription();
+    }
+    for (const auto* label : front.findChildren<QLabel*>()) texts << label->text();
+    for (const auto* button : front.findChildren<QAbstractButton*>()) texts << button->text();
+    for (const auto* action : front.findChildren<QAction*>()) texts << action->text();
+    return texts;
+  }
+
+  static QStringList Texts(const QAbstractItemModel& model, const QModelIndex& parent, int column) {
+    QStringList texts{model.headerData(column, Qt::Horizontal).toString()};
+    for (int row = 0; row < model.rowCount(parent); ++row) {
+      texts << model.index(row, column, parent).data().toString();
+    }
+    return texts;
+  }
+
+  static bool HasRoom(const QAbstractItemView& view, int column, int width) {
+    return width >= view.sizeHintForColumn(column);
+  }
+};
+
+TEST_F(FitFileChooser, IsJapaneseAndHasRoomForItsTexts) {
+  QDir(folder_.path()).mkdir("写真");
+  Make("とても長い名前の図がもう一つここにある.図");
+  request_.filters = {{"図", {"*"}}};
+  for (int time : {1, 2}) {
+    SCOPED_TRACE(time);
+    ThenInFront([](QWidget& front) {
+      auto* const list = front.findChild<QTreeView*>("treeView");
+      auto* const side = front.findChild<QListView*>("sidebar");
+      const QAbstractItemModel& files = *list->model();
+      EXPECT_TRUE(QTest::qWaitFor([&] { return files.rowCount(list->rootIndex()) == 3; }));
+      const QStringList texts = Texts(front) + Texts(files, list->rootIndex(), 0) +
+                                Texts(files, list->rootIndex(), 2) +
+                                Texts(*side->model(), QModelIndex(), 0).mid(1, 1);
+      for (QString text : texts) {
+        text.remove("txt", Qt::CaseInsensitive);
+        EXPECT_FALSE(text.contains(QRegularExpression("[A-Za-z]{2}"))) << text.toStdString();
+      }
+      EXPECT_TRUE(HasRoom(*side, 0, side->viewport()->width()));
+      for (int column = 0; column < files.columnCount(); ++column) {
+        EXPECT_TRUE(QTest::qWaitFor([&] {
+          return HasRoom(*list, column, list->columnWidth(column));
+        })) << column;
+        list->setColumnWidth(column, 9);  // is kept for the next time
+      }
+      front.close();
+    });
+    front_end_.ChooseFile(request_);
+  }
 }
 
 class ColourChooser : public Choosers {};
@@ -243,6 +331,7 @@ TEST_F(ColourChooser, IsJapaneseInAHostThatIsNot) {
 TEST_F(ColourChooser, HandsBackTheColourWithRedInTheLowByte) {
   ThenInFront([](QWidget& front) {
     auto& dialog = static_cast<QColorDialog&>(front);
+    EXPECT_TRUE(dialog.testOption(QColorDialog::DontUseNativeDialog));
     EXPECT_EQ(dialog.currentColor(), QColor(0x11, 0x22, 0x33));
     auto* const buttons = dialog.findChild<QDialogButtonBox*>();
     EXPECT_EQ(buttons->button(QDialogButtonBox::Cancel)->text(), "キャンセル");
