@@ -64,6 +64,7 @@ bool AppendTo(File& file, const std::string& line) {
 
 LineReader::LineReader(const char* path, std::size_t limit)
     : file_(CurrentFileSystem().Open(NativePath(path), OpenMode::kRead)),
+      missing_(!file_ && orreryui::IsMissing(path)),
       longest_(limit - 1),
       // Room for a whole line with its CR LF, wherever it begins.
       block_size_(file_ ? std::max(kBlockSize, longest_ + 2) : 0),
@@ -188,7 +189,7 @@ bool RenameFile(const char* from, const char* to) {
   FileSystem& files = CurrentFileSystem();
   const std::string old_name = NativePath(from);
   const std::string new_name = NativePath(to);
-  if (files.Stat(new_name) || !files.Rename(old_name, new_name)) return false;
+  if (!files.IsMissing(new_name) || !files.Rename(old_name, new_name)) return false;
   if (files.SyncFolderOf(new_name)) return true;
   files.Rename(new_name, old_name);
   return false;

@@ -32,7 +32,8 @@ namespace orreryui {
 // text of its line: what stands behind it in the line is dropped.
 //
 // The last line needs no LF. If it has one, an empty line comes behind it as the last of all. A
-// file that is empty, is missing or can't be opened has no lines.
+// file that is empty, is missing or can't be opened has no lines. Only of one that is missing or
+// was read to its end is it known what it holds; no other may be rewritten from what was read.
 //
 // The reader holds a block of the file in memory and never a whole line that is longer.
 class LineReader {
@@ -50,6 +51,10 @@ class LineReader {
   // Whether the file was opened.
   bool IsOpen() const { return file_ != nullptr; }
 
+  // Whether there is no such file. One that couldn't be opened for another reason isn't missing:
+  // it may hold lines.
+  bool IsMissing() const { return missing_; }
+
   // Whether reading broke off before the end. The lines so far are then not the whole file, and
   // rewriting it from them would lose the others.
   bool Failed() const { return failed_; }
@@ -59,6 +64,7 @@ class LineReader {
   bool Fill();
 
   std::unique_ptr<File> file_;
+  bool missing_;
   std::size_t longest_;  // bytes that a line may have
   std::size_t block_size_;
   std::unique_ptr<char[]> block_;

@@ -37,7 +37,8 @@ class OneFile : public orreryui::FileSystem {
   std::optional<FileInfo> Stat(const std::string&) override {
     return FileInfo{FileInfo::Kind::kFile, bytes_.size(), 0, false};
   }
-  std::vector<std::string> List(const std::string&) override { return {}; }
+  bool IsMissing(const std::string&) override { return false; }
+  std::optional<std::vector<std::string>> List(const std::string&) override { return std::nullopt; }
   bool SyncFolderOf(const std::string&) override { return true; }
 
  private:

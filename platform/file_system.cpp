@@ -78,6 +78,8 @@ int OpenFlags(OpenMode mode) {
   return O_RDONLY;
 }
 
+bool TellsAbsence(int error) { return error == ENOENT || error == ENOTDIR; }
+
 std::string FolderOf(const std::string& path) {
   const auto slash = path.rfind('/');
   if (slash == std::string::npos) return ".";
@@ -115,14 +117,23 @@ class PosixFileSystem final : public FileSystem {
     return info;
   }
 
-  std::vector<std::string> List(const std::string& folder) override {
+  bool IsMissing(const std::string& path) override {
+    struct stat status {};
+    return ::stat(path.c_str(), &status) != 0 && TellsAbsence(errno);
+  }
+
+  std::optional<std::vector<std::string>> List(const std::string& folder) override {
     std::vector<std::string> names;
     const std::unique_ptr<DIR, int (*)(DIR*)> handle(::opendir(folder.c_str()), &::closedir);
+    if (!handle && !TellsAbsence(errno) && errno != EACCES) return std::nullopt;
     if (!handle) return names;
+    errno = 0;
     while (const dirent* entry = ::readdir(handle.get())) {
       const std::string_view name = static_cast<const char*>(entry->d_name);
       if (name != "." && name != "..") names.emplace_back(name);
+      errno = 0;
     }
+    if (errno != 0) return std::nullopt;
     return names;
   }
 

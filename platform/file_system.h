@@ -65,11 +65,16 @@ class FileSystem {
   // leads to the old file or to the new one.
   virtual bool Rename(const std::string& from, const std::string& to) = 0;
 
-  // Nothing if there is no such name.
+  // Nothing if there is no such name, or if that can't be told.
   virtual std::optional<FileInfo> Stat(const std::string& path) = 0;
 
-  // The names in a folder, in no order, without "." and ".."; none if it can't be read.
-  virtual std::vector<std::string> List(const std::string& folder) = 0;
+  // True if nothing has that name, or a symbolic link has it that leads to nothing. False also if
+  // that can't be told.
+  virtual bool IsMissing(const std::string& path) = 0;
+
+  // The names in a folder, in no order, without "." and "..". None if there is no such folder or
+  // this process may not read it; nothing if it can't be read for another reason.
+  virtual std::optional<std::vector<std::string>> List(const std::string& folder) = 0;
 
   // Returns once the names in the folder that holds `path` are on the disk. True also where the
   // system has no way to see to that.

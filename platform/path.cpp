@@ -62,22 +62,27 @@ class Name {
   const std::string& Spelled() const { return utf8_; }
   const std::string& Raw() const { return raw_; }
 
-  // The name in a folder that differs only by case, or the empty string.
-  std::string FindIn(const std::string& folder) const {
-    std::vector<std::string> names = CurrentFileSystem().List(folder);
-    std::sort(names.begin(), names.end());
-    auto found = std::find_if(names.begin(), names.end(), [&](const std::string& name) {
-      const Encoded encoded = FromUtf8(name);
-      return encoded.refused.empty() && Fold(encoded.bytes) == folded_utf8_;
-    });
-    if (found == names.end()) {
-      found = std::find_if(names.begin(), names.end(),
-                           [&](const std::string& name) { return Fold(name) == folded_; });
+  // The first of the names, in byte order, that differs only by case, or the empty string. UTF-8
+  // comes before the bytes of the code page.
+  std::string FindAmong(const std::vector<std::string>& names) const {
+    std::string found;
+    std::string found_raw;
+    for (const std::string& name : names) {
+      if (IsLessOrFirst(name, found) && MatchesUtf8(name)) found = name;
+      if (IsLessOrFirst(name, found_raw) && Fold(name) == folded_) found_raw = name;
     }
-    return found == names.end() ? std::string() : *found;
+    return found.empty() ? found_raw : found;
   }
 
  private:
+  static bool IsLessOrFirst(const std::string& name, const std::string& found) {
+    return found.empty() || name < found;
+  }
+  bool MatchesUtf8(const std::string& name) const {
+    const Encoded encoded = FromUtf8(name);
+    return encoded.refused.empty() && Fold(encoded.bytes) == folded_utf8_;
+  }
+
   std::string raw_;
   std::string utf8_;
   std::string folded_;
@@ -91,25 +96,33 @@ std::string Below(const std::string& folder, const std::string& name) {
 
 bool Exists(const std::string& path) { return CurrentFileSystem().Stat(path).has_value(); }
 
+struct Found {
+  std::string native;
+  bool sure = true;  // false: a folder that may hold the name couldn't be read
+};
+
 // Goes down from folder to folder, as far as there are any.
-std::string FindBelow(std::string native, const std::vector<Name>& names) {
+Found FindBelow(std::string native, const std::vector<Name>& names) {
   bool found = true;
+  bool sure = true;
   for (const Name& name : names) {
     std::string next = Below(native, name.Spelled());
     if (found && !Exists(next)) {
-      const bool is_raw = Exists(Below(native, name.Raw()));
-      const std::string other = is_raw ? name.Raw() : name.FindIn(native.empty() ? "." : native);
+      std::string other = name.Raw();
+      if (!Exists(Below(native, other))) {
+        const auto listed = CurrentFileSystem().List(native.empty() ? "." : native);
+        sure = listed.has_value();
+        other = sure ? name.FindAmong(*listed) : std::string();
+      }
       found = !other.empty();
       if (found) next = Below(native, other);
     }
     native = std::move(next);
   }
-  return native;
+  return {native, sure};
 }
 
-}  // namespace
-
-std::string NativePath(std::string_view path) {
+Found Find(std::string_view path) {
   if (HasDrive(path)) path.remove_prefix(2);
   const std::string root(!path.empty() && IsSeparator(path[0]) ? 1 : 0, '/');
   std::vector<Name> names;
@@ -117,7 +130,16 @@ std::string NativePath(std::string_view path) {
   for (const std::string_view bytes : SplitNames(path)) {
     spelled = Below(spelled, names.emplace_back(bytes).Spelled());
   }
-  return Exists(spelled) ? spelled : FindBelow(root, names);
+  return Exists(spelled) ? Found{spelled} : FindBelow(root, names);
+}
+
+}  // namespace
+
+std::string NativePath(std::string_view path) { return Find(path).native; }
+
+bool IsMissing(std::string_view path) {
+  const Found found = Find(path);
+  return found.sure && CurrentFileSystem().IsMissing(found.native);
 }
 
 std::string RefusedInPath(const std::string& native) {

@@ -23,6 +23,10 @@ namespace orreryui {
 std::string NativePath(std::string_view path);
 inline std::string NativePath(const char* path) { return NativePath(std::string_view(path)); }
 
+// True if NativePath finds nothing on the disk. False also if that can't be told, as when a folder
+// can't be read at the moment.
+bool IsMissing(std::string_view path);
+
 // The way back, for a path that the file system or a file chooser gave: `\` separates in the
 // result, and NativePath finds the file again. Nothing if the path has a character that the code
 // page lacks, or a backslash within a name.

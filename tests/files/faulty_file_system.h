@@ -34,7 +34,11 @@ class FaultyFileSystem final : public FileSystem {
     return !Fails() && files_.Rename(from, to);
   }
   std::optional<FileInfo> Stat(const std::string& path) override { return files_.Stat(path); }
-  std::vector<std::string> List(const std::string& folder) override { return files_.List(folder); }
+  bool IsMissing(const std::string& path) override { return !Fails() && files_.IsMissing(path); }
+  std::optional<std::vector<std::string>> List(const std::string& folder) override {
+    if (Fails()) return std::nullopt;
+    return files_.List(folder);
+  }
   bool SyncFolderOf(const std::string& path) override {
     return !Fails() && files_.SyncFolderOf(path);
   }
