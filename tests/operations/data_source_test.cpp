@@ -80,10 +80,28 @@ TEST_F(DataSourceTest, ARegistrationChoosesTheNewNameAndStaysAfterCancel) {
   EXPECT_EQ(folder.Read(kList), std::string("name1\r\n鎌倉|%n \r\nー表\r\n"_sj));
 }
 
-TEST_F(DataSourceTest, OkReturnsTheNameThatWasRegistered) {
-  script.Type(101, "新しい").Click(103).Click(1);
-  EXPECT_EQ(Call(0, "off"), "1|off|新しい");
-  EXPECT_EQ(folder.Read(kList), std::string("新しい\r\n"_sj));
+TEST_F(DataSourceTest, OkReturnsTheNameThatAReaderWillFind) {
+  const std::string longest(98, 'x');
+  const struct {
+    std::string typed, name;  // without a name it is refused
+  } cases[] = {
+      {"新しい", "新しい"}, {"kamakura\r\n", "kamakura"},
+      {"a\r\n\r\nb", "a"},  {"\r\n", ""},
+      {"\r\nb", ""},        {";note", ""},
+      {" ;", " ;"},         {longest, longest},
+      {longest + "y", ""},  {longest + "\r\ny", longest},
+  };
+  for (const auto& [typed, name] : cases) {
+    std::filesystem::remove(folder.Path() / kList);
+    ScriptFrontEnd visit;
+    visit.OpensDialog(134).Type(101, typed).Click(103);
+    visit.Shows(101, name.empty() ? typed : "登録されました！").Click(1);
+    ScopedFrontEnd scope(&visit);
+    const CString result = OnDataSourceSet(0, "off", folder.Argument());
+    EXPECT_EQ(visit.Failures(), "") << typed;
+    EXPECT_EQ(ToUtf8(result), name.empty() ? "0|off|HD(共通領域)" : "1|off|" + name);
+    EXPECT_EQ(folder.Read(kList).value_or(""), name.empty() ? "" : FromUtf8(name).bytes + "\r\n");
+  }
 }
 
 TEST_F(DataSourceTest, ADeletionRewritesTheListAndChoosesTheCommonArea) {
@@ -93,6 +111,53 @@ TEST_F(DataSourceTest, ADeletionRewritesTheListAndChoosesTheCommonArea) {
   script.Shows(135, kCommonArea).Pick(135, 3).Click(109).Click(109).Click(1);
   EXPECT_EQ(Call(2, "on"), "0|on|HD(共通領域)");
   EXPECT_EQ(folder.Read(kList), Lines(2, 3));
+}
+
+TEST_F(DataSourceTest, ADeletionTakesOneNameOffWhatTheFileHoldsByThen) {
+  const struct {
+    const char *opened, *meanwhile;
+    int row;
+    const char* after;
+  } cases[] = {
+      {"a\nb\n", "a\nb\nother\n", 1, "b\r\nother\r\n"},
+      {"a\nb\na\n", "other\na\na\nb\n", 3, "other\r\na\r\nb\r\n"},
+      {"a\nb\na\n", "a\nb\n", 3, "a\nb\n"},
+      {"a\nb\n", "a\n", 2, "a\n"},
+      {"a\nb\n", "", 1, ""},
+  };
+  for (const auto& [opened, meanwhile, row, after] : cases) {
+    folder.Write(kList, opened);
+    ScriptFrontEnd visit;
+    visit.OpensDialog(134).Does([&](DialogSession&) {
+      folder.Write(kList, meanwhile);
+      return "";
+    });
+    visit.Pick(135, row).Click(109).Escape();
+    ScopedFrontEnd scope(&visit);
+    OnDataSourceSet(0, "off", folder.Argument());
+    EXPECT_EQ(visit.Failures(), "");
+    EXPECT_EQ(folder.Read(kList), after) << meanwhile;
+  }
+}
+
+TEST_F(DataSourceTest, AListThatCouldNotBeReadTakesNoNameAndLosesNone) {
+  bool failed = true;
+  for (int failing_call = 1; failed; ++failing_call) {
+    folder.Write(kList, Lines(1, 3));
+    FaultyFileSystem files(failing_call);
+    std::optional<ScopedFileSystem> broken(files);
+    ScriptFrontEnd visit;
+    visit.OpensDialog(134).Does([&](DialogSession&) {
+      broken.reset();
+      return "";
+    });
+    visit.Type(101, "x").Click(103).Click(109).Escape();
+    ScopedFrontEnd scope(&visit);
+    OnDataSourceSet(0, "off", folder.Argument());
+    EXPECT_EQ(visit.Failures(), "");
+    EXPECT_EQ(folder.Read(kList), Lines(1, 3)) << "call " << failing_call;
+    failed = files.calls() >= failing_call;
+  }
 }
 
 TEST_F(DataSourceTest, LinesAreCutAtNinetyEightBytes) {
