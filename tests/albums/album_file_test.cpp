@@ -69,6 +69,19 @@ TEST_F(AlbumFileTest, OnlyTheFirstLineMakesAFile) {
   EXPECT_FALSE(CreateEmptyAlbum(folder.Argument()));
 }
 
+TEST_F(AlbumFileTest, ALineThatNoReaderFindsWholeIsNotWritten) {
+  for (const bool first : {true, false}) {
+    folder.Write(kAlbum, "old");
+    const CString rest(std::string(199 - 9, 'x').c_str());  // behind "p 1 2 i "
+    EXPECT_FALSE(AppendAlbumLine(Path(), first, {";p", "1", "2", "i", "t.txt", ""}));
+    EXPECT_FALSE(AppendAlbumLine(Path(), first, {"p", "1", "2", "i", rest + "xy", ""}));
+    EXPECT_FALSE(AppendAlbumLine(Path(), first, {"p", "1", "2", "i", "b", rest + "x"}));
+    EXPECT_EQ(folder.Read(kAlbum), "old");
+    EXPECT_TRUE(AppendAlbumLine(Path(), first, {"p", "1", "2", "i", rest + "x", ""}));
+    EXPECT_EQ(ReadAlbumLines(Path()).back(), "p 1 2 i " + rest + "x");
+  }
+}
+
 TEST_F(AlbumFileTest, AnEmptyAlbumHoldsNothingOfTheOldOne) {
   EXPECT_TRUE(CreateEmptyAlbum(Path()));
   EXPECT_EQ(folder.Read(kAlbum), "");
