@@ -231,7 +231,7 @@ TEST_F(AlbumUpdateTest, WithoutAWindowNothingIsTouched) {
   folder.Write(kAlbum, Lines(1, 2));
   const CString album = folder.Argument() + kAlbum;
   EXPECT_EQ(OnAlbumUpdate(7, "new", album, "", "", "", "", ""), "");
-  EXPECT_EQ(OnAlbumUpdate(-1, "new", album, "", "", "", "", ""), "-1|3|");
+  EXPECT_EQ(OnAlbumUpdate(-1, "new", album, "", "", "", "", ""), "");
   EXPECT_EQ(folder.Read(kAlbum), Lines(1, 2));
 }
 
