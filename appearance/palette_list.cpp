@@ -121,11 +121,11 @@ bool FitsInALine(const PaletteEntry& entry) {
   return length < static_cast<int>(kLineLimit);
 }
 
-PaletteList ReadPaletteList(const CString& folder) {
+PaletteList ReadPaletteList(const CString& folder, std::size_t most) {
   PaletteList list;
   LineReader reader(ListPath(folder), kLineLimit);
   CString line;
-  while (list.entries.size() < kMostPalettes && reader.ReadLine(line) && !line.IsEmpty()) {
+  while (list.entries.size() < most && reader.ReadLine(line) && !line.IsEmpty()) {
     list.entries.push_back(PaletteEntryOf(line));
   }
   const auto rest = BytesBehind(folder, list.entries.size());

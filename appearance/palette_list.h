@@ -13,13 +13,15 @@
 #include <orreryui/cstring.h>
 
 #include <cstddef>
+#include <limits>
 #include <string>
 #include <vector>
 
 namespace orreryui {
 
-// As many palettes as are read. Those behind them stay in the list, whatever is done to it.
+// As many palettes as the editor knows. Those behind them stay in the list, whatever is done to it.
 inline constexpr std::size_t kMostPalettes = 20;
+inline constexpr std::size_t kAllPalettes = std::numeric_limits<std::size_t>::max();
 
 struct PaletteEntry {
   CString name;
@@ -29,7 +31,7 @@ struct PaletteEntry {
 struct PaletteList {
   std::vector<PaletteEntry> entries;
   std::string rest;      // what stands in the file behind the entries, byte for byte
-  bool complete = true;  // false: reading broke off, so that a rewrite would lose lines
+  bool complete = true;  // false: it couldn't be opened or reading broke off
 };
 
 PaletteEntry PaletteEntryOf(const CString& line);
@@ -37,8 +39,9 @@ PaletteEntry PaletteEntryOf(const CString& line);
 // Whether a reader of the list gets the entry whole.
 bool FitsInALine(const PaletteEntry& entry);
 
-// A list that can't be opened has no entries. A line of more than 98 bytes gives several.
-PaletteList ReadPaletteList(const CString& folder);
+// The first `most` entries. A list that is missing has none; a line of more than 98 bytes gives
+// several.
+PaletteList ReadPaletteList(const CString& folder, std::size_t most = kMostPalettes);
 
 // One line of the list, whatever stands in front of it. Where the list has no line of that number,
 // the empty text, or the last line if that has no line end.

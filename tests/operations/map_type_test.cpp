@@ -93,6 +93,18 @@ TEST_F(MapTypeTest, ShowsTheSettingsAndReturnsThemUnchanged) {
   EXPECT_EQ(Call({3, 21, 10001, 50102, 1, region}), "-1|3|1|1|2|0|1|1|5|2|東|京");
 }
 
+TEST_F(MapTypeTest, EveryLineOfTheListUpToAnEmptyOneIsAPalette) {
+  std::string list;
+  std::vector<std::string> names;
+  for (int i = 0; i < 30; ++i) {
+    names.push_back("name" + std::to_string(i));
+    list += names.back() + "$file\n";
+  }
+  folder.Write("PLTTFILE.DAT", list + "\nunseen$file\n");
+  script.ShowsRows(kPalette, names).ShowsSelection(kPalette, 25).Pick(kPalette, 29).Click(1);
+  EXPECT_EQ(Call({.palette = 25}), "1|29|1|1|2|0|0|1|5|0|");
+}
+
 TEST_F(MapTypeTest, WithoutAPaletteListOrAWindowNothingIsLost) {
   std::filesystem::remove(folder.Path() / "PLTTFILE.DAT");
   script.ShowsRows(kPalette, {}).ShowsSelection(kPalette, -1).Shows(kPalette, "").Click(1);
