@@ -34,6 +34,7 @@ class OneFile : public orreryui::FileSystem {
   }
   bool Remove(const std::string&) override { return false; }
   bool Rename(const std::string&, const std::string&) override { return false; }
+  std::optional<std::string> Target(const std::string& path) override { return path; }
   std::optional<FileInfo> Stat(const std::string&) override {
     return FileInfo{FileInfo::Kind::kFile, bytes_.size(), 0, false};
   }
@@ -65,6 +66,11 @@ class OneFile : public orreryui::FileSystem {
       return true;
     }
     bool Sync() override { return true; }
+    bool Lock(std::chrono::milliseconds) override { return true; }
+    bool HasName(const std::string&) override { return true; }
+    std::uint64_t CountNames() override { return 2; }  // so that it is never replaced
+    std::optional<orreryui::FileAttributes> Attributes() override { return std::nullopt; }
+    bool SetAttributes(const orreryui::FileAttributes&) override { return false; }
 
    private:
     std::string& bytes_;

@@ -96,6 +96,8 @@ std::string Below(const std::string& folder, const std::string& name) {
 
 bool Exists(const std::string& path) { return CurrentFileSystem().Stat(path).has_value(); }
 
+ListedOnce* outermost = nullptr;
+
 struct Found {
   std::string native;
   bool sure = true;  // false: a folder that may hold the name couldn't be read
@@ -110,11 +112,11 @@ Found FindBelow(std::string native, const std::vector<Name>& names) {
     if (found && !Exists(next)) {
       std::string other = name.Raw();
       if (!Exists(Below(native, other))) {
-        const auto listed = CurrentFileSystem().List(native.empty() ? "." : native);
-        sure = listed.has_value();
-        other = sure ? name.FindAmong(*listed) : std::string();
+        const auto there = ListedOnce::NamesIn(native.empty() ? "." : native);
+        sure = there != nullptr;
+        other = sure ? name.FindAmong(*there) : std::string();
       }
-      found = !other.empty();
+      found = !other.empty() && Exists(Below(native, other));
       if (found) next = Below(native, other);
     }
     native = std::move(next);
@@ -134,6 +136,29 @@ Found Find(std::string_view path) {
 }
 
 }  // namespace
+
+std::string NameToCreate(std::string_view path) {
+  if (HasDrive(path)) path.remove_prefix(2);
+  const auto names = SplitNames(path);
+  return names.empty() ? std::string() : Name(names.back()).Spelled();
+}
+
+ListedOnce::ListedOnce() {
+  if (!outermost) outermost = this;
+}
+
+ListedOnce::~ListedOnce() {
+  if (outermost == this) outermost = nullptr;
+}
+
+ListedOnce::Names ListedOnce::NamesIn(const std::string& folder) {
+  if (outermost && outermost->listed_.contains(folder)) return outermost->listed_.at(folder);
+  auto listed = CurrentFileSystem().List(folder);
+  if (!listed) return nullptr;
+  auto names = std::make_shared<const std::vector<std::string>>(std::move(*listed));
+  if (outermost) outermost->listed_.emplace(folder, names);
+  return names;
+}
 
 std::string NativePath(std::string_view path) { return Find(path).native; }
 

@@ -2,6 +2,8 @@
 #ifndef ORRERYUI_TESTS_FILES_FAULTY_FILE_SYSTEM_H_
 #define ORRERYUI_TESTS_FILES_FAULTY_FILE_SYSTEM_H_
 
+#include <signal.h>
+
 #include <algorithm>
 #include <limits>
 #include <memory>
@@ -13,13 +15,23 @@
 
 namespace orreryui {
 
-// Counts the calls that can fail and fails the one that `failing_call` names, from 1 on. A failing
-// write takes half of its bytes first. `longest_read` makes reads come in pieces.
+enum class Fault {
+  kOnce,     // a write takes half of its bytes before it fails
+  kLasting,  // all calls from that one on fail
+  kKill,     // the process ends instead of the call
+};
+
+// Counts the calls that can fail and fails the one that `failing_call` names, from 1 on.
+// Nothing is really synced, which takes long. `longest_read` makes reads come in pieces.
 class FaultyFileSystem final : public FileSystem {
  public:
-  explicit FaultyFileSystem(int failing_call = 0) : failing_call_(failing_call) {}
+  explicit FaultyFileSystem(int failing_call = 0, Fault fault = Fault::kOnce)
+      : failing_call_(failing_call), fault_(fault) {}
 
   int calls() const { return calls_; }
+  Fault fault() const { return fault_; }
+  // Whether a call has failed.
+  bool Failed() const { return failing_call_ > 0 && calls_ >= failing_call_; }
   // Whether all that was written has been brought to the disk.
   bool all_on_disk() const { return all_on_disk_; }
   std::size_t longest_read = std::numeric_limits<std::size_t>::max();
@@ -33,15 +45,16 @@ class FaultyFileSystem final : public FileSystem {
   bool Rename(const std::string& from, const std::string& to) override {
     return !Fails() && files_.Rename(from, to);
   }
+  std::optional<std::string> Target(const std::string& path) override {
+    return Fails() ? std::nullopt : files_.Target(path);
+  }
   std::optional<FileInfo> Stat(const std::string& path) override { return files_.Stat(path); }
   bool IsMissing(const std::string& path) override { return !Fails() && files_.IsMissing(path); }
   std::optional<std::vector<std::string>> List(const std::string& folder) override {
     if (Fails()) return std::nullopt;
     return files_.List(folder);
   }
-  bool SyncFolderOf(const std::string& path) override {
-    return !Fails() && files_.SyncFolderOf(path);
-  }
+  bool SyncFolderOf(const std::string&) override { return !Fails(); }
 
  private:
   class FaultyFile final : public File {
@@ -54,7 +67,7 @@ class FaultyFileSystem final : public FileSystem {
     bool Write(std::string_view bytes) override {
       owner_.all_on_disk_ = false;
       if (!owner_.Fails()) return file_->Write(bytes);
-      file_->Write(bytes.substr(0, bytes.size() / 2));
+      if (owner_.fault_ == Fault::kOnce) file_->Write(bytes.substr(0, bytes.size() / 2));
       return false;
     }
     bool Seek(std::uint64_t position) override { return !owner_.Fails() && file_->Seek(position); }
@@ -63,8 +76,21 @@ class FaultyFileSystem final : public FileSystem {
     }
     bool Truncate(std::uint64_t size) override { return !owner_.Fails() && file_->Truncate(size); }
     bool Sync() override {
-      if (owner_.Fails() || !file_->Sync()) return false;
+      if (owner_.Fails()) return false;
       return owner_.all_on_disk_ = true;
+    }
+    bool Lock(std::chrono::milliseconds patience) override {
+      return !owner_.Fails() && file_->Lock(patience);
+    }
+    bool HasName(const std::string& path) override {
+      return !owner_.Fails() && file_->HasName(path);
+    }
+    std::uint64_t CountNames() override { return owner_.Fails() ? 0 : file_->CountNames(); }
+    std::optional<FileAttributes> Attributes() override {
+      return owner_.Fails() ? std::nullopt : file_->Attributes();
+    }
+    bool SetAttributes(const FileAttributes& attributes) override {
+      return !owner_.Fails() && file_->SetAttributes(attributes);
     }
 
    private:
@@ -72,10 +98,15 @@ class FaultyFileSystem final : public FileSystem {
     std::unique_ptr<File> file_;
   };
 
-  bool Fails() { return ++calls_ == failing_call_; }
+  bool Fails() {
+    ++calls_;
+    if (Failed() && fault_ == Fault::kKill) raise(SIGKILL);
+    return fault_ == Fault::kLasting ? Failed() : calls_ == failing_call_;
+  }
 
   FileSystem& files_ = CurrentFileSystem();
   const int failing_call_;
+  const Fault fault_;
   int calls_ = 0;
   bool all_on_disk_ = true;
 };

@@ -5,61 +5,51 @@
 #include <unistd.h>
 
 #include <functional>
-#include <map>
+#include <optional>
 #include <string>
 
 #include "frame/line_file.h"
-#include "tests/files/faulty_file_system.h"
 #include "tests/operations/test_folder.h"
+#include "tests/support/each_fault.h"
 
 namespace orreryui {
 namespace {
-
-using Files = std::map<std::string, std::string>;  // names and bytes of a folder
 
 class LineWriterTest : public testing::Test {
  protected:
   std::string PathOf(const std::string& name) const { return (folder_.Path() / name).string(); }
 
-  void Fill(const Files& files) const {
-    for (const auto& entry : std::filesystem::directory_iterator(folder_.Path())) {
-      std::filesystem::remove_all(entry.path());
-    }
-    for (const auto& [name, bytes] : files) folder_.Write(name, bytes);
-  }
-
-  Files Content() const {
-    Files files;
-    for (const auto& entry : std::filesystem::directory_iterator(folder_.Path())) {
-      const std::string name = entry.path().filename().string();
-      files[name] = folder_.Read(name).value_or("");
-    }
-    return files;
-  }
-
-  // Fails each call of `change` in turn. The folder must hold `before` after a change that says it
-  // failed, and `after` when it says that it worked.
+  // Plays `change` with a fault at each of its calls, and kills a process that makes it at each.
+  // The folder must hold `before` or `after`, and what a change says that it did. Tried again, it
+  // succeeds and leaves nothing beside.
   void ExpectAllOrNothing(const Files& before, const Files& after,
                           const std::function<bool()>& change) const {
-    for (int call = 1;; ++call) {
-      Fill(before);
-      FaultyFileSystem files(call);
-      bool changed = false;
-      {
-        const ScopedFileSystem scope(files);
-        changed = change();
+    const auto expect = [&](bool changed) {
+      Files found = folder_.Content();
+      // What is left of a second file stays for the next writer.
+      std::erase_if(found, [&](const auto& file) { return !after.contains(file.first); });
+      ASSERT_EQ(found, changed ? after : before);
+      EXPECT_TRUE(changed || change());
+      EXPECT_EQ(folder_.Content(), after);
+    };
+    ForEachFault([&](FaultyFileSystem& files) {
+      folder_.Lay(before);
+      std::optional<ScopedFileSystem> scope(files);
+      const bool changed = change();
+      scope.reset();
+      EXPECT_TRUE(changed || files.Failed());
+      if (files.fault() == Fault::kOnce) {
+        EXPECT_EQ(folder_.Content(), changed ? after : before);
+        EXPECT_TRUE(!changed || files.all_on_disk());
       }
-      ASSERT_EQ(Content(), changed ? after : before) << "call " << call;
-      EXPECT_TRUE(!changed || files.all_on_disk()) << "call " << call;
-      if (files.calls() < call) {
-        EXPECT_TRUE(changed);
-        EXPECT_GT(call, 3) << "no call was failed";
-        return;
-      }
-    }
+      expect(changed);
+    });
+    ForEachKill([&] { folder_.Lay(before); }, change, [&] { expect(folder_.Content() == after); });
   }
 
   TestFolder folder_;
+  FaultyFileSystem never_synced_;
+  ScopedFileSystem scope_{never_synced_};
 };
 
 TEST_F(LineWriterTest, CreatesAFileOrNone) {
@@ -95,25 +85,25 @@ TEST_F(LineWriterTest, ReplacesThroughANewFileOrNotAtAll) {
     return ReplaceThroughNewFile(PathOf("f").c_str(), PathOf("f.new").c_str(), "new\r\n");
   };
   ExpectAllOrNothing({{"f", "old content\r\n"}}, {{"f", "new\r\n"}}, replace);
-  Fill({{"f", "old\r\n"}, {"f.new", "left behind, and longer than the new content\r\n"}});
+  folder_.Lay({{"f", "old\r\n"}, {"f.new", "left behind, and longer than the new content\r\n"}});
   EXPECT_TRUE(replace());
-  EXPECT_EQ(Content(), (Files{{"f", "new\r\n"}}));
+  EXPECT_EQ(folder_.Content(), (Files{{"f", "new\r\n"}}));
 }
 
 TEST_F(LineWriterTest, RenamesOrNotAtAll) {
   const auto rename = [&] { return RenameFile(PathOf("a").c_str(), PathOf("b").c_str()); };
-  Fill({{"a", "A"}});
+  folder_.Lay({{"a", "A"}});
   {
     FaultyFileSystem files(2);  // the names can't be brought to the disk
     const ScopedFileSystem scope(files);
     EXPECT_FALSE(rename());
   }
-  EXPECT_EQ(Content(), (Files{{"a", "A"}}));
+  EXPECT_EQ(folder_.Content(), (Files{{"a", "A"}}));
   EXPECT_TRUE(rename());
-  EXPECT_EQ(Content(), (Files{{"b", "A"}}));
-  Fill({{"a", "A"}, {"B", "B"}});
+  EXPECT_EQ(folder_.Content(), (Files{{"b", "A"}}));
+  folder_.Lay({{"a", "A"}, {"B", "B"}});
   EXPECT_FALSE(rename()) << "the name is taken, in another case";
-  EXPECT_EQ(Content(), (Files{{"a", "A"}, {"B", "B"}}));
+  EXPECT_EQ(folder_.Content(), (Files{{"a", "A"}, {"B", "B"}}));
 }
 
 TEST_F(LineWriterTest, WhatMustExistIsNotMade) {
@@ -123,11 +113,11 @@ TEST_F(LineWriterTest, WhatMustExistIsNotMade) {
   EXPECT_FALSE(RemoveFile(PathOf("f").c_str()));
   EXPECT_FALSE(RenameFile(PathOf("f").c_str(), PathOf("g").c_str()));
   EXPECT_FALSE(FileExists(PathOf("f").c_str()));
-  EXPECT_EQ(Content(), Files());
+  EXPECT_EQ(folder_.Content(), Files());
 }
 
 TEST_F(LineWriterTest, RefusesFoldersAndPathsThroughFiles) {
-  Fill({{"file", "x"}});
+  folder_.Lay({{"file", "x"}});
   std::filesystem::create_directory(folder_.Path() / "folder");
   for (const std::string name : {"folder", "missing/f", "file/f"}) {
     EXPECT_FALSE(CreateFile(PathOf(name).c_str(), "new")) << name;
@@ -140,7 +130,7 @@ TEST_F(LineWriterTest, RefusesFoldersAndPathsThroughFiles) {
 // The system itself refuses to let a file grow, as it does on a full disk.
 TEST_F(LineWriterTest, PutsFilesBackWhenTheSystemStopsAWrite) {
   const std::string old(900, 'o');
-  Fill({{"append", old}, {"rewrite", old}, {"replace", old}});
+  folder_.Lay({{"append", old}, {"rewrite", old}, {"replace", old}});
   const pid_t child = fork();
   ASSERT_NE(child, -1);
   if (child == 0) {
@@ -157,13 +147,13 @@ TEST_F(LineWriterTest, PutsFilesBackWhenTheSystemStopsAWrite) {
   int status = 0;
   ASSERT_EQ(waitpid(child, &status, 0), child);
   EXPECT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) == 0) << status;
-  EXPECT_EQ(Content(), (Files{{"append", old}, {"rewrite", old}, {"replace", old}}));
+  EXPECT_EQ(folder_.Content(), (Files{{"append", old}, {"rewrite", old}, {"replace", old}}));
 }
 
 // The superuser may write anywhere, so the writing is done by a process of a user who may not.
 TEST_F(LineWriterTest, AFolderAndFilesThatMayOnlyBeReadStayAsTheyAre) {
   const Files before{{"append", "old\r\n"}, {"rewrite", "old\r\n"}, {"replace", "old\r\n"}};
-  Fill(before);
+  folder_.Lay(before);
   const auto may_read = std::filesystem::perms::owner_read | std::filesystem::perms::group_read |
                         std::filesystem::perms::others_read;
   const auto may_enter = std::filesystem::perms::owner_exec | std::filesystem::perms::group_exec |
@@ -187,7 +177,7 @@ TEST_F(LineWriterTest, AFolderAndFilesThatMayOnlyBeReadStayAsTheyAre) {
   ASSERT_EQ(waitpid(child, &status, 0), child);
   EXPECT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) == 0) << status;
   permissions(folder_.Path(), std::filesystem::perms::owner_all);
-  EXPECT_EQ(Content(), before);
+  EXPECT_EQ(folder_.Content(), before);
 }
 
 }  // namespace

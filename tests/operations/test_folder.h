@@ -8,10 +8,13 @@
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <map>
 #include <optional>
 #include <string>
 
 namespace orreryui {
+
+using Files = std::map<std::string, std::string>;  // names and bytes
 
 class TestFolder {
  public:
@@ -38,6 +41,20 @@ class TestFolder {
     std::ifstream file(path_ / name, std::ios::binary);
     if (!file) return std::nullopt;
     return std::string(std::istreambuf_iterator<char>(file), {});
+  }
+
+  // Replaces all that is in the folder.
+  void Lay(const Files& files) const {
+    for (const auto& entry : std::filesystem::directory_iterator(path_)) remove_all(entry.path());
+    for (const auto& [name, bytes] : files) Write(name, bytes);
+  }
+  Files Content() const {
+    Files files;
+    for (const auto& entry : std::filesystem::directory_iterator(path_)) {
+      const std::string name = entry.path().filename().string();
+      files[name] = Read(name).value_or("");
+    }
+    return files;
   }
 
  private:
