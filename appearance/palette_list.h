@@ -6,7 +6,8 @@
 // that were edited by hand may have other files.
 //
 // Folders end in their separator. Whatever changes the disk returns true once all of the change is
-// there; false means that the folder is as it was.
+// there; false means that the folder is as it was. A change that was cut off half-way is finished
+// or taken back by the next reader.
 #ifndef ORRERYUI_APPEARANCE_PALETTE_LIST_H_
 #define ORRERYUI_APPEARANCE_PALETTE_LIST_H_
 
@@ -26,6 +27,8 @@ inline constexpr std::size_t kAllPalettes = std::numeric_limits<std::size_t>::ma
 struct PaletteEntry {
   CString name;
   CString file;  // without folder; empty in a damaged line
+
+  bool operator==(const PaletteEntry&) const = default;
 };
 
 struct PaletteList {
@@ -51,15 +54,16 @@ CString ReadPaletteLine(const CString& folder, int number);
 // entries with a file of that kind, plus 1; if that file exists, the next n that is free.
 CString NewPaletteFile(const CString& folder, const PaletteList& list);
 
-// Adds an entry behind those of `list`, which was read from the folder. The file must exist.
-bool AddPaletteEntry(const CString& folder, const PaletteList& list, const PaletteEntry& entry);
+// Adds an entry, whose file gets the content `text`, behind the entries of the list, which must
+// exist. The file must not.
+bool AddPaletteEntry(const CString& folder, const PaletteEntry& entry, const std::string& text);
 
-// Removes the entry `number` of `list`, which was read from the folder, and its palette file;
-// `list` is then what is left. The files behind the entry are renamed, so that each palette that
-// was named by its place still is. Other files keep their names: one that another entry names as
-// well is neither removed nor renamed, and no file takes a name that is in use. If any step fails,
-// the steps before it are taken back, and `list` stays as it was.
-bool RemovePaletteEntry(const CString& folder, PaletteList& list, std::size_t number);
+// Removes from the list as it is by now the entry that `shown` has at `number`, and its palette
+// file; `shown` is then what is left. The files behind the entry are renamed, so that each palette
+// that was named by its place still is. Other files keep their names: one that another line names
+// as well, or that lies outside the folder, is neither removed nor renamed, and no file takes a
+// name that is in use. A file may be missing. False also if the entry isn't in the list any more.
+bool RemovePaletteEntry(const CString& folder, PaletteList& shown, std::size_t number);
 
 }  // namespace orreryui
 

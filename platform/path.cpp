@@ -167,6 +167,12 @@ bool IsMissing(std::string_view path) {
   return found.sure && CurrentFileSystem().IsMissing(found.native);
 }
 
+bool LeadsOut(const char* path) {
+  if (HasDrive(path) || IsSeparator(path[0])) return true;
+  const auto names = SplitNames(path);
+  return std::find(names.begin(), names.end(), "..") != names.end();
+}
+
 std::string RefusedInPath(const std::string& native) {
   if (native.find('\\') != std::string::npos) return "\\";
   return FromUtf8(native).refused;

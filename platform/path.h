@@ -52,6 +52,10 @@ class ListedOnce {
 // can't be read at the moment.
 bool IsMissing(std::string_view path);
 
+// Whether a path that is glued to a folder may lead out of it: one with `..` in it, or with a
+// separator or a drive letter in front.
+bool LeadsOut(const char* path);
+
 // The way back, for a path that the file system or a file chooser gave: `\` separates in the
 // result, and NativePath finds the file again. Nothing if the path has a character that the code
 // page lacks, or a backslash within a name.

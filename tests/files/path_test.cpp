@@ -111,5 +111,16 @@ TEST_F(PathTest, TheWayBackLeadsToTheSameFile) {
   EXPECT_FALSE(PathFromNative("/tmp/\xFF.txt"));
 }
 
+TEST(LeadsOutTest, SeesEveryWayOutOfAFolder) {
+  for (const char* path :
+       {"..", "../x", "..\\x", "a/b\\../../x", "a\\..", "/x", "\\x", "C:x", "z:/x"}) {
+    EXPECT_TRUE(LeadsOut(path)) << path;
+  }
+  // The second byte of a character separates nothing.
+  for (const char* path : {"", ".", "x", "a/b.plt", "...", "..x/x..", "\x95\\..", "12:x"}) {
+    EXPECT_FALSE(LeadsOut(path)) << path;
+  }
+}
+
 }  // namespace
 }  // namespace orreryui

@@ -5,8 +5,8 @@
 #include "platform/code_page_932.h"
 #include "platform/front_end_loader.h"
 #include "platform/japanese_literal.h"
-#include "tests/files/faulty_file_system.h"
 #include "tests/operations/test_folder.h"
+#include "tests/support/each_fault.h"
 
 namespace orreryui {
 namespace {
@@ -141,10 +141,8 @@ TEST_F(DataSourceTest, ADeletionTakesOneNameOffWhatTheFileHoldsByThen) {
 }
 
 TEST_F(DataSourceTest, AListThatCouldNotBeReadTakesNoNameAndLosesNone) {
-  bool failed = true;
-  for (int failing_call = 1; failed; ++failing_call) {
+  ForEachFault([&](FaultyFileSystem& files) {
     folder.Write(kList, Lines(1, 3));
-    FaultyFileSystem files(failing_call);
     std::optional<ScopedFileSystem> broken(files);
     ScriptFrontEnd visit;
     visit.OpensDialog(134).Does([&](DialogSession&) {
@@ -155,9 +153,8 @@ TEST_F(DataSourceTest, AListThatCouldNotBeReadTakesNoNameAndLosesNone) {
     ScopedFrontEnd scope(&visit);
     OnDataSourceSet(0, "off", folder.Argument());
     EXPECT_EQ(visit.Failures(), "");
-    EXPECT_EQ(folder.Read(kList), Lines(1, 3)) << "call " << failing_call;
-    failed = files.calls() >= failing_call;
-  }
+    EXPECT_EQ(folder.Read(kList), Lines(1, 3));
+  });
 }
 
 TEST_F(DataSourceTest, LinesAreCutAtNinetyEightBytes) {
@@ -204,35 +201,32 @@ std::string TextOf(const DialogSession& session, int id) {
   return "no such control";
 }
 
-// Clicks once while the n-th call of the file system fails, for each n until none is left to fail.
-// The file then holds what it held, with the dialog as it was, or what the click makes of it.
+// Clicks once while calls of the file system fail. The file then holds what it held, with the
+// dialog as it was, or what the click makes of it; and nothing stands beside it.
 void ClickOnAFailingDisk(int id, const std::string& after) {
-  const std::string before = Lines(1, 2);
-  int failing_call = 0;
-  for (bool failed = true; failed;) {
-    ++failing_call;
-    TestFolder folder;
-    folder.Write(kList, before);
+  const TestFolder folder;
+  int refusals = 0;
+  ForEachFault([&](FaultyFileSystem& files) {
+    folder.Lay({{kList, Lines(1, 2)}});
     ScriptFrontEnd script;
     script.OpensDialog(134).Type(101, "name3").Does([&](DialogSession& session) {
-      FaultyFileSystem files(failing_call);
       const ScopedFileSystem scope(files);
       session.Click(id);
-      failed = files.calls() >= failing_call;
       return "";
     });
     script.Does([&](DialogSession& session) {
-      if (folder.Read(kList) == after) return "";
-      if (folder.Read(kList) != before) return "the file is neither as it was nor as it should be";
+      if (folder.Content() == Files{{kList, after}}) return "";
+      ++refusals;
+      if (folder.Content() != Files{{kList, Lines(1, 2)}}) return "the files are half changed";
       const bool as_it_was = TextOf(session, 101) == "name3" && TextOf(session, 135) == "name1";
       return as_it_was ? "" : "the dialog shows what didn't happen";
     });
     script.Escape();
     ScopedFrontEnd scope(&script);
     OnDataSourceSet(1, "off", folder.Argument());
-    EXPECT_EQ(script.Failures(), "") << "call " << failing_call;
-  }
-  EXPECT_GT(failing_call, 4) << "no call was failed";
+    EXPECT_EQ(script.Failures(), "");
+  });
+  EXPECT_GT(refusals, 4);
 }
 
 TEST_F(DataSourceTest, AWriteThatFailsIsARefusedClick) {
