@@ -74,6 +74,34 @@ TEST_F(PaletteTest, ARegisteredPaletteCanBeLoadedAndDeleted) {
   EXPECT_EQ(folder.Read("Orbis3.plt"), std::nullopt);
 }
 
+TEST_F(PaletteTest, WhatOthersMadeOfTheListMeanwhileCounts) {
+  script.Does([this](DialogSession&) -> std::string {
+    folder.Write(kList, List(2) + "other$Orbis3.plt\r\n");
+    folder.Write("Orbis3.plt", "other");
+    return "";
+  });
+  script.Type(kNames, "other").Click(kEdit).ShowsMessage(kAskRegister, kOk);
+  script.ShowsMessage(kNameTaken, kOk);
+  script.Type(kNames, "x").Click(kEdit).ShowsMessage(kAskRegister, kOk);
+  script.ShowsRows(kNames, {"自然", "冬", "other", "x"}).Pick(kNames, 1);
+  // The file of the chosen palette is another one's by now.
+  const std::string list = FromUtf8("自然$Orbis2.plt\r\n").bytes;
+  script.Does([&](DialogSession&) -> std::string {
+    folder.Write(kList, list);
+    return "";
+  });
+  script.Click(Swatch(2)).ChoosesColour(0, 9u).Click(kEdit).ShowsMessage(kAskUpdate, kOk);
+  script.Click(kDelete)
+      .ShowsMessage(kAskDelete, kOk)
+      .ShowsRows(kNames, {"自然", "冬", "other", "x"});
+  script.Click(1).ShowsMessage("配色を更新しますか！", kCancel);
+  EXPECT_EQ(Call(2), "1|20|20|20|1|2|3|4|5|6|");
+  EXPECT_EQ(folder.Read(kList), list);
+  EXPECT_EQ(folder.Read("Orbis2.plt"), Text(kWinter));
+  EXPECT_EQ(folder.Read("Orbis3.plt"), "other");
+  EXPECT_NE(folder.Read("Orbis4.plt"), std::nullopt);
+}
+
 TEST_F(PaletteTest, OkRegistersWhatIsPending) {
   script.Click(Swatch(2)).ChoosesColour(0, 1u).Type(kNames, "x").Click(1);
   script.ShowsMessage("配色を登録しますか！", kOk).ShowsMessage(kAskRegister, kOk);
@@ -251,6 +279,8 @@ class FailingDiskTest : public PaletteTest {
   Scene Look(const DialogSession& session) const {
     Scene scene;
     scene.files = folder.Content();
+    // What is left of a second file goes with the next write.
+    std::erase_if(scene.files, [](const auto& file) { return file.first.front() == '.'; });
     for (int i = 0; i < session.ControlCount(); ++i) {
       const ControlView view = session.Control(i);
       if (view.id != kNames) continue;
@@ -261,8 +291,8 @@ class FailingDiskTest : public PaletteTest {
     return scene;
   }
 
-  // Plays `prepare`, then clicks on a disk with faults. What the dialog shows afterwards, and what
-  // the files are once the list has been opened again.
+  // Plays `prepare`, then clicks on a disk with faults. What was before the click, and what is once
+  // the list has been opened again.
   std::pair<Scene, Scene> Click(FaultyFileSystem& files, int selected, const Play& prepare, int id,
                                 const char* question) {
     folder.Lay(before);
