@@ -29,6 +29,7 @@ class FaultyFileSystem final : public FileSystem {
       : failing_call_(failing_call), fault_(fault) {}
 
   int calls() const { return calls_; }
+  int listings() const { return listings_; }
   Fault fault() const { return fault_; }
   // Whether a call has failed.
   bool Failed() const { return failing_call_ > 0 && calls_ >= failing_call_; }
@@ -51,6 +52,7 @@ class FaultyFileSystem final : public FileSystem {
   std::optional<FileInfo> Stat(const std::string& path) override { return files_.Stat(path); }
   bool IsMissing(const std::string& path) override { return !Fails() && files_.IsMissing(path); }
   std::optional<std::vector<std::string>> List(const std::string& folder) override {
+    ++listings_;
     if (Fails()) return std::nullopt;
     return files_.List(folder);
   }
@@ -108,6 +110,7 @@ class FaultyFileSystem final : public FileSystem {
   const int failing_call_;
   const Fault fault_;
   int calls_ = 0;
+  int listings_ = 0;
   bool all_on_disk_ = true;
 };
 
