@@ -217,6 +217,29 @@ TEST_F(LineWriterTest, TakingALineBackCutsNoOtherOff) {
   EXPECT_EQ(found.find("half"), std::string::npos);
 }
 
+// Whoever reads meanwhile finds one content or the other, and no writer spoils what another writes.
+TEST_F(LineWriterTest, TwoProcessesReplaceOneFile) {
+  const auto write = [&](char letter) {
+    int written = 0;
+    const std::string content(5000, letter);
+    for (int i = 0; i < 300; ++i) {
+      written += CreateFile(PathOf("f").c_str(), content) ? 1 : 0;
+      const std::string found = folder_.Read("f").value_or("");
+      const bool is_whole = found.size() == 5000 && found.find_first_not_of(found[0]) > 5000;
+      if (!is_whole) return 0;
+    }
+    return written;
+  };
+  const pid_t child = fork();
+  ASSERT_NE(child, -1);
+  if (child == 0) _exit(write('b') > 0 ? 0 : 1);
+  EXPECT_GT(write('a'), 0);
+  int status = 0;
+  ASSERT_EQ(waitpid(child, &status, 0), child);
+  EXPECT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) == 0) << status;
+  EXPECT_EQ(folder_.Content().size(), 1u);
+}
+
 // The system itself refuses to let a file grow, as it does on a full disk, and would end the
 // process.
 TEST_F(LineWriterTest, PutsFilesBackWhenTheSystemStopsAWrite) {
