@@ -162,8 +162,7 @@ bool RenameFile(const char* from, const char* to) {
   const std::string new_name = NativePath(to);
   if (!files.IsMissing(new_name) || !files.Rename(old_name, new_name)) return false;
   if (files.SyncFolderOf(new_name)) return true;
-  files.Rename(new_name, old_name);
-  return false;
+  return !files.Rename(new_name, old_name);
 }
 
 }  // namespace orreryui

@@ -69,7 +69,7 @@ class Name {
     std::string found_raw;
     for (const std::string& name : names) {
       if (IsLessOrFirst(name, found) && MatchesUtf8(name)) found = name;
-      if (IsLessOrFirst(name, found_raw) && Fold(name) == folded_) found_raw = name;
+      if (IsLessOrFirst(name, found_raw) && MatchesRaw(name)) found_raw = name;
     }
     return found.empty() ? found_raw : found;
   }
@@ -78,7 +78,16 @@ class Name {
   static bool IsLessOrFirst(const std::string& name, const std::string& found) {
     return found.empty() || name < found;
   }
+  // False for most names of a folder, at no cost: no character gets longer by its encoding.
+  static bool MayMatch(const std::string& name, const std::string& folded) {
+    const std::string first = Fold(name.substr(0, 1));
+    return name.size() >= folded.size() && (first >= "\x80" || first[0] == folded[0]);
+  }
+  bool MatchesRaw(const std::string& name) const {
+    return MayMatch(name, folded_) && Fold(name) == folded_;
+  }
   bool MatchesUtf8(const std::string& name) const {
+    if (!MayMatch(name, folded_utf8_)) return false;
     const Encoded encoded = FromUtf8(name);
     return encoded.refused.empty() && Fold(encoded.bytes) == folded_utf8_;
   }

@@ -18,7 +18,7 @@ namespace orreryui {
 enum class Fault {
   kOnce,     // a write takes half of its bytes before it fails
   kLasting,  // all calls from that one on fail
-  kKill,     // the process ends instead of the call
+  kKill,     // the process ends instead of the call, which is one that changes something
 };
 
 // Counts the calls that can fail and fails the one that `failing_call` names, from 1 on.
@@ -29,6 +29,7 @@ class FaultyFileSystem final : public FileSystem {
       : failing_call_(failing_call), fault_(fault) {}
 
   int calls() const { return calls_; }
+  int listings() const { return listings_; }
   Fault fault() const { return fault_; }
   // Whether a call has failed.
   bool Failed() const { return failing_call_ > 0 && calls_ >= failing_call_; }
@@ -37,13 +38,14 @@ class FaultyFileSystem final : public FileSystem {
   std::size_t longest_read = std::numeric_limits<std::size_t>::max();
 
   std::unique_ptr<File> Open(const std::string& path, OpenMode mode) override {
-    if (Fails()) return nullptr;
+    const bool creates = mode != OpenMode::kRead && mode != OpenMode::kReadWrite;
+    if (creates ? FailsToChange() : Fails()) return nullptr;
     auto file = files_.Open(path, mode);
     return file ? std::make_unique<FaultyFile>(*this, std::move(file)) : nullptr;
   }
-  bool Remove(const std::string& path) override { return !Fails() && files_.Remove(path); }
+  bool Remove(const std::string& path) override { return !FailsToChange() && files_.Remove(path); }
   bool Rename(const std::string& from, const std::string& to) override {
-    return !Fails() && files_.Rename(from, to);
+    return !FailsToChange() && files_.Rename(from, to);
   }
   std::optional<std::string> Target(const std::string& path) override {
     return Fails() ? std::nullopt : files_.Target(path);
@@ -51,6 +53,7 @@ class FaultyFileSystem final : public FileSystem {
   std::optional<FileInfo> Stat(const std::string& path) override { return files_.Stat(path); }
   bool IsMissing(const std::string& path) override { return !Fails() && files_.IsMissing(path); }
   std::optional<std::vector<std::string>> List(const std::string& folder) override {
+    ++listings_;
     if (Fails()) return std::nullopt;
     return files_.List(folder);
   }
@@ -66,7 +69,7 @@ class FaultyFileSystem final : public FileSystem {
     }
     bool Write(std::string_view bytes) override {
       owner_.all_on_disk_ = false;
-      if (!owner_.Fails()) return file_->Write(bytes);
+      if (!owner_.FailsToChange()) return file_->Write(bytes);
       if (owner_.fault_ == Fault::kOnce) file_->Write(bytes.substr(0, bytes.size() / 2));
       return false;
     }
@@ -74,7 +77,9 @@ class FaultyFileSystem final : public FileSystem {
     std::optional<std::uint64_t> Size() override {
       return owner_.Fails() ? std::nullopt : file_->Size();
     }
-    bool Truncate(std::uint64_t size) override { return !owner_.Fails() && file_->Truncate(size); }
+    bool Truncate(std::uint64_t size) override {
+      return !owner_.FailsToChange() && file_->Truncate(size);
+    }
     bool Sync() override {
       if (owner_.Fails()) return false;
       return owner_.all_on_disk_ = true;
@@ -90,7 +95,7 @@ class FaultyFileSystem final : public FileSystem {
       return owner_.Fails() ? std::nullopt : file_->Attributes();
     }
     bool SetAttributes(const FileAttributes& attributes) override {
-      return !owner_.Fails() && file_->SetAttributes(attributes);
+      return !owner_.FailsToChange() && file_->SetAttributes(attributes);
     }
 
    private:
@@ -98,7 +103,8 @@ class FaultyFileSystem final : public FileSystem {
     std::unique_ptr<File> file_;
   };
 
-  bool Fails() {
+  bool Fails() { return fault_ != Fault::kKill && FailsToChange(); }
+  bool FailsToChange() {
     ++calls_;
     if (Failed() && fault_ == Fault::kKill) raise(SIGKILL);
     return fault_ == Fault::kLasting ? Failed() : calls_ == failing_call_;
@@ -108,6 +114,7 @@ class FaultyFileSystem final : public FileSystem {
   const int failing_call_;
   const Fault fault_;
   int calls_ = 0;
+  int listings_ = 0;
   bool all_on_disk_ = true;
 };
 

@@ -141,6 +141,7 @@ TEST_F(FileChangesTest, FreesNamesInAnyCase) {
     changes.Remove(PathOf("f1").c_str());
     changes.Rename(PathOf("f2").c_str(), PathOf("f1").c_str());
     EXPECT_TRUE(changes.Commit("b"));
+    EXPECT_EQ(never_synced_.listings(), 1);
   }
   EXPECT_EQ(Reopened(), (Files{{kList, "b"}, {"f1", "b"}}));
 }

@@ -6,6 +6,7 @@
 
 #include "platform/code_page_932.h"
 #include "platform/file_system.h"
+#include "tests/files/faulty_file_system.h"
 #include "tests/operations/test_folder.h"
 
 namespace orreryui {
@@ -71,6 +72,22 @@ TEST_F(PathTest, PrefersTheSpellingGivenThenTheFirstInByteOrder) {
   EXPECT_EQ(Find("List.Dat"), "List.Dat");
   EXPECT_EQ(Find("list.dat"), "list.dat");
   EXPECT_EQ(Find("lISt.dat"), "LIST.DAT");
+}
+
+TEST_F(PathTest, ListsAFolderOnceInTheLifeOfAChange) {
+  folder_.Write("List.Dat", "");
+  FaultyFileSystem files;
+  const ScopedFileSystem scope(files);
+  {
+    const ListedOnce once;
+    for (const char* name : {"LIST.DAT", "list.dat"}) EXPECT_EQ(Find(name), "List.Dat");
+    for (int i = 0; i < 9; ++i) EXPECT_EQ(Find("X" + std::to_string(i)), "X" + std::to_string(i));
+    std::filesystem::rename(folder_.Path() / "List.Dat", folder_.Path() / "New.Dat");
+    EXPECT_EQ(Find("LIST.DAT"), "LIST.DAT") << "it has gone";
+    EXPECT_EQ(Find("New.Dat"), "New.Dat");
+    EXPECT_EQ(files.listings(), 1);
+  }
+  EXPECT_EQ(Find("NEW.DAT"), "New.Dat");
 }
 
 TEST_F(PathTest, FindsNamesThatAreRawBytes) {
