@@ -89,6 +89,7 @@ bool CDlgPalette::AskForName(CString& name) {
 bool CDlgPalette::RegisterPalette() {
   CString name;
   if (AfxMessageBox(kAskRegister) != IDOK || !AskForName(name)) return true;
+  const ListedOnce listed_once;
   PaletteList list = ReadPaletteList(m_strDir);
   if (!m_aPalettes.complete || !list.complete) return false;
   if (list.entries.size() >= kMostRegistered) {
@@ -100,8 +101,8 @@ bool CDlgPalette::RegisterPalette() {
     AfxMessageBox(kNameTaken);
     return true;
   }
-  if (!AddPaletteEntry(m_strDir, palette, TextOfPalette(m_strDir + palette.file, name)))
-    return false;
+  const std::string text = TextOfPalette(m_strDir + palette.file, name);
+  if (!AddPaletteEntry(m_strDir, palette, text)) return false;
   if (!PaletteAt(m_nNewIndex)) m_nSelect = m_nNewIndex = static_cast<int>(list.entries.size());
   list.entries.push_back(palette);
   m_aPalettes = list;
