@@ -183,7 +183,7 @@ TEST_F(LineWriterTest, CreatesWhatASymbolicLinkLeadsTo) {
 
 // One process adds lines, the other's writes fail when they are half done.
 TEST_F(LineWriterTest, TakingALineBackCutsNoOtherOff) {
-  constexpr int kLines = 300;
+  constexpr int kLines = 2000;
   const auto append = [&](const std::string& line) {
     return AppendLine(PathOf("f").c_str(), line.c_str(), IfMissing::kCreate);
   };
