@@ -12,7 +12,7 @@ using namespace album_update;
 
 namespace {
 
-constexpr int kEndedByDeletion = -1;
+constexpr int kEndedByDeletion = 3;
 constexpr int kCodeOfDeletion = -1;
 constexpr int kCodeOfEnd = 0;
 

@@ -4,7 +4,7 @@
 //
 //   IDOK with the code it began with   the texts of the registered point, which may have changed
 //   IDOK with code 0                   the texts as they came in, if another code came in
-//   another end with code -1           the album is to be deleted
+//   another end with code -1           the album is to be deleted, unless no window could be shown
 #ifndef ORRERYUI_ALBUMS_ALBUM_UPDATE_DIALOG_H_
 #define ORRERYUI_ALBUMS_ALBUM_UPDATE_DIALOG_H_
 

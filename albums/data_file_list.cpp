@@ -1,5 +1,6 @@
 #include "albums/data_file_list.h"
 
+#include "frame/entries.h"
 #include "frame/line_file.h"
 
 namespace orreryui {
@@ -17,18 +18,25 @@ DataFileList ReadDataFileList(const CString& path) {
     if (!line.IsEmpty() && line[0] != ';') list.names.push_back(line);
   }
   if (list.names.size() == kMostDataFileNames) list.rest = reader.ReadRest();
-  list.complete = !reader.Failed();
+  list.complete = reader.IsMissing() || (reader.IsOpen() && !reader.Failed());
   return list;
+}
+
+bool IsDataFileName(const CString& name) {
+  return !name.IsEmpty() && name[0] != ';' && name.GetLength() < static_cast<int>(kLineLimit);
 }
 
 bool AppendDataFileName(const CString& path, const CString& name) {
   return AppendLine(path, name, IfMissing::kCreate);
 }
 
-bool RewriteDataFileList(const CString& path, const DataFileList& list) {
-  if (!list.complete) return false;
+bool RemoveDataFileName(const CString& path, const DataFileList& shown, std::size_t index) {
+  DataFileList list = ReadDataFileList(path);
+  const auto name = FindAgain(shown.names, index, list.names);
+  if (!list.complete || name == list.names.end()) return false;
+  list.names.erase(name);
   std::string content;
-  for (const CString& name : list.names) content.append(name).append("\r\n");
+  for (const CString& kept : list.names) content.append(kept).append("\r\n");
   return RewriteInPlace(path, content + list.rest);
 }
 

@@ -17,19 +17,22 @@ inline constexpr std::size_t kMostDataFileNames = 99;
 struct DataFileList {
   std::vector<CString> names;  // in file order
   std::string rest;            // what stands in the file behind kMostDataFileNames names
-  bool complete = true;        // false: reading broke off, so that a rewrite would lose names
+  bool complete = true;        // false: it couldn't be opened or reading broke off
 };
 
-// A file that can't be opened has no names. A line of more than 98 bytes gives several names.
+// A file that is missing has no names. A line of more than 98 bytes gives several names.
 DataFileList ReadDataFileList(const CString& path);
+
+// Whether a reader of the list gets the name back.
+bool IsDataFileName(const CString& name);
 
 // Adds a name at the end of the file, and makes the file if there is none. False: the file is as
 // it was.
 bool AppendDataFileName(const CString& path, const CString& name);
 
-// Writes the list in place of the file's content; the file must exist. False: the file is as it
-// was.
-bool RewriteDataFileList(const CString& path, const DataFileList& list);
+// Takes the name that `shown` has at `index` off the list as the file holds it now. False: the file
+// is as it was, since the name isn't there any more, or the disk refused.
+bool RemoveDataFileName(const CString& path, const DataFileList& shown, std::size_t index);
 
 }  // namespace orreryui
 

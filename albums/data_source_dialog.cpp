@@ -1,6 +1,7 @@
 #include "albums/data_source_dialog.h"
 
 #include "albums/data_file_list.h"
+#include "frame/entries.h"
 #include "templates/data_source.h"
 
 namespace orreryui {
@@ -64,9 +65,9 @@ void CDlgDataSource::OnToggleCommonArea() {
 }
 
 void CDlgDataSource::OnRegisterFile() {
-  if (m_aFiles.names.size() >= kMostDataFileNames) return;
-  const CString name = GetDlgItemText(kNewFile);
-  if (name.IsEmpty() || name.Find(kRegisteredStart) == 0) return;
+  if (!m_aFiles.complete || m_aFiles.names.size() >= kMostDataFileNames) return;
+  const CString name = FirstLine(GetDlgItemText(kNewFile));
+  if (!IsDataFileName(name) || name.Find(kRegisteredStart) == 0) return;
   if (!AppendDataFileName(ListPath(), name)) return;
   m_aFiles.names.push_back(name);
   AddString(kFiles, name);
@@ -78,9 +79,8 @@ void CDlgDataSource::OnRegisterFile() {
 
 void CDlgDataSource::OnDeleteFile() {
   if (m_nSelected == 0) return;
-  DataFileList kept = m_aFiles;
-  kept.names.erase(kept.names.begin() + m_nSelected - 1);
-  if (!RewriteDataFileList(ListPath(), kept)) return;
+  const auto index = static_cast<std::size_t>(m_nSelected) - 1;
+  if (!RemoveDataFileName(ListPath(), m_aFiles, index)) return;
   m_nSelected = 0;
   OnInitDialog();
 }

@@ -1,7 +1,8 @@
 // The data files of the host: lets the user choose one, add a name to the list of data files or
 // take one off it, and say whether the common area is shown as well. The list is the file
 // "BINDER.DAT"; what the user adds or takes off is in it at once, and stays when the user gives up.
-// A name that can't be written to the file is refused like any other click that has no effect.
+// Of a name that was typed the first line counts. One that readers of the list wouldn't find, a
+// list that couldn't be read and a disk that refuses make the click one that has no effect.
 #ifndef ORRERYUI_ALBUMS_DATA_SOURCE_DIALOG_H_
 #define ORRERYUI_ALBUMS_DATA_SOURCE_DIALOG_H_
 

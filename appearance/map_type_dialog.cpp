@@ -39,7 +39,7 @@ std::span<const Message<CDlgMapType>> CDlgMapType::Messages() {
 CDlgMapType::CDlgMapType() : DialogWithMessages(kTemplate) {}
 
 void CDlgMapType::OnInitDialog() {
-  for (const PaletteEntry& entry : ReadPaletteList(m_strDir).entries) {
+  for (const PaletteEntry& entry : ReadPaletteList(m_strDir, kAllPalettes).entries) {
     AddString(kPalette, entry.name);
   }
   if (m_nTint == 1) SetCurSel(kPalette, m_nPalette);

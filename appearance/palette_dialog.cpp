@@ -15,7 +15,6 @@ namespace {
 
 constexpr const char* kUpdate = "更新"_sj;
 constexpr const char* kBlackNote = "中間の標高を無視する時は黒色を指定してください！"_sj;
-constexpr const char* kAskUpdate = "現在選択中の配色を更新します！"_sj;
 constexpr const char* kAskSaveNew = "配色を登録しますか！"_sj;
 constexpr const char* kAskSaveOld = "配色を更新しますか！"_sj;
 
@@ -146,14 +145,6 @@ void CDlgPalette::OnEdit() {
   } else {
     UpdatePalette();
   }
-}
-
-bool CDlgPalette::UpdatePalette() {
-  if (AfxMessageBox(kAskUpdate) != IDOK) return true;
-  const PaletteEntry* const palette = PaletteAt(m_nSelect);
-  if (!palette || !WritePalette(PathOf(m_nSelect), palette->name, "")) return false;
-  m_strChange = "PaletteChange_F";
-  return true;
 }
 
 // Colours that were to be saved and couldn't be keep the dialog open.

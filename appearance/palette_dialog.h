@@ -49,8 +49,9 @@ class CDlgPalette : public DialogWithMessages<CDlgPalette> {
 
   // Fills the working colours from the palette in row `index`; one that can't be read is black.
   void LoadColors(int index);
-  // Writes the working colours; mode "NEW" makes the file, the empty text gives it new content.
-  bool WritePalette(const CString& path, const CString& name, const CString& mode);
+  // Asks, then writes the working colours to the chosen palette's file. False: that is outside the
+  // folder, the list has the palette no more, or the disk refused.
+  bool UpdatePalette();
   // Asks, then adds a palette with the working colours to the list. False: the disk refused.
   bool RegisterPalette();
   // Asks, then removes the chosen palette.
@@ -71,10 +72,9 @@ class CDlgPalette : public DialogWithMessages<CDlgPalette> {
   // The palette in a row, or null: the new entry has none.
   const PaletteEntry* PaletteAt(int index) const;
   CString PathOf(int index) const;
-  // Asks, then writes the working colours to the chosen palette. False: that failed.
-  bool UpdatePalette();
+  // What the palette's file holds for the working colours.
+  std::string TextOfPalette(const CString& path, const CString& name) const;
   bool AskForName(CString& name);
-  bool HasName(const CString& name) const;
 
   // Reads the list again; where it reads in part only, the one that is known counts.
   void ListPalettes();

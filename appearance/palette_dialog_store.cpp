@@ -2,10 +2,12 @@
 #include <algorithm>
 
 #include "appearance/palette_dialog.h"
+#include "frame/entries.h"
 #include "frame/line_file.h"
 #include "frame/run_editor.h"
 #include "platform/dialogs/inner_windows.h"
 #include "platform/strings/japanese_literal.h"
+#include "platform/system/path.h"
 #include "templates/palette.h"
 
 namespace orreryui {
@@ -14,6 +16,7 @@ using namespace palette;
 
 namespace {
 
+constexpr const char* kAskUpdate = "現在選択中の配色を更新します！"_sj;
 constexpr const char* kAskRegister = "新規に配色を登録します！"_sj;
 constexpr const char* kNameMissing = "配色の名称を入力してください！"_sj;
 constexpr const char* kNameTaken = "配色の名称を新規に入力してください！"_sj;
@@ -23,6 +26,11 @@ constexpr const char* kAskDelete = "現在選択中の配色を削除します�
 // The slots of the rows of a palette file.
 constexpr std::array<std::size_t, kRowElevations.size()> kRowSlots = {1, 12, 2, 3, 4, 5,
                                                                       6, 7,  8, 9, 10};
+
+bool HasName(const PaletteList& list, const CString& name) {
+  return std::any_of(list.entries.begin(), list.entries.end(),
+                     [&name](const PaletteEntry& palette) { return palette.name == name; });
+}
 
 }  // namespace
 
@@ -48,13 +56,26 @@ void CDlgPalette::LoadColors(int index) {
   m_crColor[13] = m_crBack;
 }
 
-bool CDlgPalette::WritePalette(const CString& path, const CString& name, const CString& mode) {
+std::string CDlgPalette::TextOfPalette(const CString& path, const CString& name) const {
   RowColours colours{};
   for (std::size_t row = 0; row < kRowSlots.size(); ++row) {
     colours[row] = m_crColor[kRowSlots[row]];
   }
-  return WritePaletteFile(path, name, colours,
-                          mode == "NEW" ? PaletteWrite::kNew : PaletteWrite::kUpdate);
+  return PaletteText(path, name, colours);
+}
+
+bool CDlgPalette::UpdatePalette() {
+  if (AfxMessageBox(kAskUpdate) != IDOK) return true;
+  const PaletteEntry* const palette = PaletteAt(m_nSelect);
+  if (!palette || LeadsOut(palette->file)) return false;
+  // Its file may have become another palette's.
+  PaletteList list = ReadPaletteList(m_strDir);
+  const auto number = static_cast<std::size_t>(m_nSelect);
+  if (FindAgain(m_aPalettes.entries, number, list.entries) == list.entries.end()) return false;
+  const CString path = PathOf(m_nSelect);
+  if (!RewriteInPlace(path, TextOfPalette(path, palette->name))) return false;
+  m_strChange = "PaletteChange_F";
+  return true;
 }
 
 bool CDlgPalette::AskForName(CString& name) {
@@ -65,31 +86,26 @@ bool CDlgPalette::AskForName(CString& name) {
   }
 }
 
-bool CDlgPalette::HasName(const CString& name) const {
-  const auto& palettes = m_aPalettes.entries;
-  return std::any_of(palettes.begin(), palettes.end(),
-                     [&name](const PaletteEntry& palette) { return palette.name == name; });
-}
-
 bool CDlgPalette::RegisterPalette() {
   CString name;
   if (AfxMessageBox(kAskRegister) != IDOK || !AskForName(name)) return true;
-  if (m_aPalettes.entries.size() >= kMostRegistered) {
+  const ListedOnce listed_once;
+  PaletteList list = ReadPaletteList(m_strDir);
+  if (!m_aPalettes.complete || !list.complete) return false;
+  if (list.entries.size() >= kMostRegistered) {
     AfxMessageBox(kListFull);
     return true;
   }
-  const PaletteEntry palette{name, NewPaletteFile(m_strDir, m_aPalettes)};
-  if (HasName(name) || !FitsInALine(palette)) {
+  const PaletteEntry palette{name, NewPaletteFile(m_strDir, list)};
+  if (HasName(list, name) || !FitsInALine(palette)) {
     AfxMessageBox(kNameTaken);
     return true;
   }
-  const CString path = m_strDir + palette.file;
-  if (!WritePalette(path, name, "NEW")) return false;
-  if (!AddPaletteEntry(m_strDir, m_aPalettes, palette)) {
-    RemoveFile(path);
-    return false;
-  }
-  m_aPalettes.entries.push_back(palette);
+  const std::string text = TextOfPalette(m_strDir + palette.file, name);
+  if (!AddPaletteEntry(m_strDir, palette, text)) return false;
+  if (!PaletteAt(m_nNewIndex)) m_nSelect = m_nNewIndex = static_cast<int>(list.entries.size());
+  list.entries.push_back(palette);
+  m_aPalettes = list;
   ListPalettes();
   m_strChange = "PaletteChange_F";
   return true;

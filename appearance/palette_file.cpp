@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <cstdlib>
 #include <optional>
-#include <string>
 #include <string_view>
 
 #include "frame/line_file.h"
@@ -58,20 +57,6 @@ COLORREF Between(const PalettePoint& from, const PalettePoint& to, int level) {
                   blend(Blue(from.colour), Blue(to.colour)));
 }
 
-std::string PaletteText(const CString& path, const CString& name, const RowColours& colours) {
-  std::string text;
-  text.append(";").append(name).append("  ").append(path).append("  \r\n");
-  for (std::size_t row = 0; row < colours.size(); ++row) {
-    const COLORREF colour = colours[row];
-    if (colour == kBlack && !IsAlwaysWritten(row)) continue;
-    CString numbers;
-    numbers.Format("%4d %3d %3d %3d", kRowElevations[row], Red(colour), Green(colour),
-                   Blue(colour));
-    text.append(numbers).append(kCaptions[row]).append("\r\n");
-  }
-  return text;
-}
-
 }  // namespace
 
 std::vector<PalettePoint> ReadPalette(const CString& path) {
@@ -105,10 +90,18 @@ LevelColours InterpolatedColours(const std::vector<PalettePoint>& points) {
   return colours;
 }
 
-bool WritePaletteFile(const CString& path, const CString& name, const RowColours& colours,
-                      PaletteWrite mode) {
-  const std::string text = PaletteText(path, name, colours);
-  return mode == PaletteWrite::kNew ? CreateFile(path, text) : RewriteInPlace(path, text);
+std::string PaletteText(const CString& path, const CString& name, const RowColours& colours) {
+  std::string text;
+  text.append(";").append(name).append("  ").append(path).append("  \r\n");
+  for (std::size_t row = 0; row < colours.size(); ++row) {
+    const COLORREF colour = colours[row];
+    if (colour == kBlack && !IsAlwaysWritten(row)) continue;
+    CString numbers;
+    numbers.Format("%4d %3d %3d %3d", kRowElevations[row], Red(colour), Green(colour),
+                   Blue(colour));
+    text.append(numbers).append(kCaptions[row]).append("\r\n");
+  }
+  return text;
 }
 
 }  // namespace orreryui

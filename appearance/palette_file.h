@@ -13,6 +13,7 @@
 
 #include <array>
 #include <cstddef>
+#include <string>
 #include <vector>
 
 #include "appearance/colour.h"
@@ -61,12 +62,8 @@ LevelColours ExactColours(const std::vector<PalettePoint>& points);
 // that no pair covers are black, which with fewer than two points means all of them.
 LevelColours InterpolatedColours(const std::vector<PalettePoint>& points);
 
-enum class PaletteWrite { kNew, kUpdate };
-
-// Writes a palette. kNew makes the file, kUpdate gives one that must exist new content. `name`, the
-// palette's name, goes into a comment. False: what was on the disk is as it was.
-bool WritePaletteFile(const CString& path, const CString& name, const RowColours& colours,
-                      PaletteWrite mode);
+// The bytes of a palette's file. Its path and `name`, the palette's name, go into a comment.
+std::string PaletteText(const CString& path, const CString& name, const RowColours& colours);
 
 }  // namespace orreryui
 

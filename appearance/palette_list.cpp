@@ -3,9 +3,14 @@
 #include <algorithm>
 #include <optional>
 #include <sstream>
+#include <string_view>
 #include <utility>
 
+#include "frame/entries.h"
+#include "frame/file_changes.h"
 #include "frame/line_file.h"
+#include "platform/system/file_system.h"
+#include "platform/system/path.h"
 
 namespace orreryui {
 namespace {
@@ -48,11 +53,13 @@ bool IsSameFile(const CString& one, const CString& other) {
   return LowerCase(one) == LowerCase(other);
 }
 
-// Whether another line of the list names the file of entry `number` as well.
-bool IsShared(const PaletteList& list, std::size_t number) {
-  const CString& file = list.entries[number].file;
+// Whether something is known to have that name.
+bool Exists(const CString& path) { return CurrentFileSystem().Stat(NativePath(path)).has_value(); }
+
+// Whether a line of the list other than that of entry `except` names the file.
+bool IsNamed(const PaletteList& list, const CString& file, std::size_t except) {
   for (std::size_t i = 0; i < list.entries.size(); ++i) {
-    if (i != number && IsSameFile(list.entries[i].file, file)) return true;
+    if (i != except && IsSameFile(list.entries[i].file, file)) return true;
   }
   std::istringstream rest(list.rest);
   for (std::string line; std::getline(rest, line);) {
@@ -62,52 +69,64 @@ bool IsShared(const PaletteList& list, std::size_t number) {
   return false;
 }
 
-// Files of one folder that get other names, and get their old ones back if not all goes well.
-class Renames {
+// A list as it stands in the file, whatever change of it is under way.
+PaletteList ReadList(const CString& folder, std::size_t most) {
+  PaletteList list;
+  LineReader reader(ListPath(folder), kLineLimit);
+  CString line;
+  while (list.entries.size() < most && reader.ReadLine(line) && !line.IsEmpty()) {
+    list.entries.push_back(PaletteEntryOf(line));
+  }
+  const auto rest = BytesBehind(folder, list.entries.size());
+  list.rest = rest.value_or("");
+  list.complete = reader.IsMissing() || (reader.IsOpen() && !reader.Failed() && rest);
+  return list;
+}
+
+// Whether the file lies in the folder of the list itself.
+bool IsBeside(const CString& file) {
+  return !file.IsEmpty() && !LeadsOut(file) && file.Find('\\') < 0 && file.Find('/') < 0;
+}
+
+// The removal of an entry, step by step.
+class Removal {
  public:
-  explicit Renames(const CString& folder) : folder_(folder) {}
-  ~Renames() {
-    for (auto done = done_.rbegin(); done != done_.rend(); ++done) {
-      RenameFile(done->second, done->first);
+  explicit Removal(const CString& folder) : folder_(folder), changes_(ListPath(folder)) {}
+
+  // Takes the file of entry `number` away, unless it lies elsewhere or another line names it.
+  void TakeFile(const PaletteList& list, std::size_t number) {
+    const CString& file = list.entries[number].file;
+    if (!IsBeside(file) || IsNamed(list, file, number)) return;
+    if (MayExist(file)) changes_.Remove(folder_ + file);
+    gone_.push_back(file);
+  }
+
+  // Gives the entries from `number` on, which have moved up, the files of their new places.
+  void MoveUp(PaletteList& list, std::size_t number) {
+    for (std::size_t place = number; place < list.entries.size(); ++place) {
+      CString& file = list.entries[place].file;
+      const CString new_file = FileOfPlace(place);
+      if (!IsSameFile(file, FileOfPlace(place + 1)) || IsNamed(list, file, place)) continue;
+      if (IsNamed(list, new_file, place) || !WillBeFree(new_file)) continue;
+      if (MayExist(file)) changes_.Rename(folder_ + file, folder_ + new_file);
+      gone_.push_back(std::exchange(file, new_file));
     }
   }
-  Renames(const Renames&) = delete;
-  Renames& operator=(const Renames&) = delete;
 
-  bool Rename(const CString& from, const CString& to) {
-    if (!FileExists(folder_ + from) || !RenameFile(folder_ + from, folder_ + to)) return false;
-    done_.emplace_back(folder_ + from, folder_ + to);
-    return true;
-  }
-  void Keep() { done_.clear(); }
+  bool Commit(const PaletteList& list) { return changes_.Commit(TextOf(list.entries) + list.rest); }
 
  private:
-  CString folder_;
-  std::vector<std::pair<CString, CString>> done_;
-};
-
-// A name that no file has, for one that is about to go.
-CString NameAside(const CString& folder, const CString& file) {
-  CString name;
-  int number = 0;
-  do {
-    name.Format("%s.%d", static_cast<const char*>(file), ++number);
-  } while (FileExists(folder + name));
-  return name;
-}
-
-// Gives the entries behind `number`, which has left, the files of their new places.
-bool MoveUp(const CString& folder, PaletteList& list, std::size_t number, Renames& renames) {
-  for (std::size_t place = number; place < list.entries.size(); ++place) {
-    CString& file = list.entries[place].file;
-    const CString new_file = FileOfPlace(place);
-    if (!IsSameFile(file, FileOfPlace(place + 1)) || IsShared(list, place)) continue;
-    if (FileExists(folder + new_file)) continue;
-    if (!renames.Rename(file, new_file)) return false;
-    file = new_file;
+  // True also if that can't be told, so that the step is refused.
+  bool MayExist(const CString& file) const { return !IsMissing(std::string_view(folder_ + file)); }
+  bool WillBeFree(const CString& file) const {
+    const auto is_it = [&](const CString& name) { return IsSameFile(name, file); };
+    return std::any_of(gone_.begin(), gone_.end(), is_it) || !Exists(folder_ + file);
   }
-  return true;
-}
+
+  CString folder_;
+  FileChanges changes_;
+  std::vector<CString> gone_;  // names that the steps so far leave to nobody
+};
 
 }  // namespace
 
@@ -121,20 +140,15 @@ bool FitsInALine(const PaletteEntry& entry) {
   return length < static_cast<int>(kLineLimit);
 }
 
-PaletteList ReadPaletteList(const CString& folder) {
-  PaletteList list;
-  LineReader reader(ListPath(folder), kLineLimit);
-  CString line;
-  while (list.entries.size() < kMostPalettes && reader.ReadLine(line) && !line.IsEmpty()) {
-    list.entries.push_back(PaletteEntryOf(line));
-  }
-  const auto rest = BytesBehind(folder, list.entries.size());
-  list.rest = rest.value_or("");
-  list.complete = reader.IsOpen() == rest.has_value() && !reader.Failed();
+PaletteList ReadPaletteList(const CString& folder, std::size_t most) {
+  const bool finished = FinishChanges(ListPath(folder));
+  PaletteList list = ReadList(folder, most);
+  list.complete = list.complete && finished;
   return list;
 }
 
 CString ReadPaletteLine(const CString& folder, int number) {
+  FinishChanges(ListPath(folder));
   LineReader reader(ListPath(folder), kLineLimit);
   CString line;
   CString next;
@@ -149,42 +163,33 @@ CString NewPaletteFile(const CString& folder, const PaletteList& list) {
   auto number = static_cast<std::size_t>(std::count_if(
       list.entries.begin(), list.entries.end(),
       [](const PaletteEntry& entry) { return LowerCase(entry.file).Find("orbis") >= 0; }));
-  while (FileExists(folder + FileOfPlace(number))) ++number;
+  while (Exists(folder + FileOfPlace(number))) ++number;
   return FileOfPlace(number);
 }
 
-bool AddPaletteEntry(const CString& folder, const PaletteList& list, const PaletteEntry& entry) {
-  if (!list.complete) return false;
-  const CString path = ListPath(folder);
-  if (list.rest.empty()) {
-    return AppendLine(path, entry.name + "$" + entry.file, IfMissing::kFail);
-  }
+bool AddPaletteEntry(const CString& folder, const PaletteEntry& entry, const std::string& text) {
+  FileChanges changes(ListPath(folder));
+  const PaletteList list = ReadList(folder, kMostPalettes);
+  const auto bytes = BytesBehind(folder, 0);
+  if (!list.complete || !bytes || !bytes->ends_with(list.rest)) return false;
   // Behind an empty line the entry would be lost to readers.
-  return RewriteInPlace(path, TextOf(list.entries) + TextOf({entry}) + list.rest);
+  std::string content = bytes->substr(0, bytes->size() - list.rest.size());
+  if (!content.empty() && !content.ends_with('\n')) content += "\r\n";
+  changes.Create(folder + entry.file, text);
+  return changes.Commit(content + TextOf({entry}) + list.rest);
 }
 
-bool RemovePaletteEntry(const CString& folder, PaletteList& list, std::size_t number) {
-  const CString path = ListPath(folder);
-  const auto old_text = BytesBehind(folder, 0);
-  if (!list.complete || !old_text) return false;
-  const CString& file = list.entries[number].file;
-
-  Renames renames(folder);
-  CString aside;
-  if (!IsShared(list, number)) {
-    aside = NameAside(folder, file);
-    if (!renames.Rename(file, aside)) return false;
-  }
-  PaletteList kept = list;
-  kept.entries.erase(kept.entries.begin() + static_cast<std::ptrdiff_t>(number));
-  if (!MoveUp(folder, kept, number, renames)) return false;
-  if (!CreateFile(path, TextOf(kept.entries) + kept.rest)) return false;
-  if (!aside.IsEmpty() && !RemoveFile(folder + aside)) {
-    CreateFile(path, *old_text);
-    return false;
-  }
-  renames.Keep();
-  list = kept;
+bool RemovePaletteEntry(const CString& folder, PaletteList& shown, std::size_t number) {
+  Removal removal(folder);
+  PaletteList list = ReadList(folder, kMostPalettes);
+  const auto entry = FindAgain(shown.entries, number, list.entries);
+  if (!list.complete || entry == list.entries.end()) return false;
+  const auto place = static_cast<std::size_t>(entry - list.entries.begin());
+  removal.TakeFile(list, place);
+  list.entries.erase(entry);
+  removal.MoveUp(list, place);
+  if (!removal.Commit(list)) return false;
+  shown = list;
   return true;
 }
 

@@ -5,41 +5,13 @@
 #include <optional>
 #include <utility>
 
+#include "frame/replace_file.h"
 #include "platform/system/path.h"
 
 namespace orreryui {
 namespace {
 
 constexpr std::size_t kBlockSize = 131072;
-
-// Writes `content` over the whole of an open file.
-bool Overwrite(File& file, std::string_view content) {
-  return file.Seek(0) && file.Write(content) && file.Truncate(content.size()) && file.Sync();
-}
-
-// The old bytes go where they lay before, so that a full disk has room for them.
-bool OverwriteOrRestore(File& file, std::string_view content) {
-  const auto old = ReadAll(file);
-  if (!old) return false;
-  if (Overwrite(file, content)) return true;
-  Overwrite(file, *old);
-  return false;
-}
-
-bool CreateAt(const std::string& path, std::string_view content) {
-  FileSystem& files = CurrentFileSystem();
-  auto file = files.Open(path, OpenMode::kCreate);
-  if (!file) return false;
-  if (file->Write(content) && file->Sync() && files.SyncFolderOf(path)) return true;
-  file.reset();
-  files.Remove(path);
-  return false;
-}
-
-bool RewriteAt(const std::string& path, std::string_view content) {
-  const auto file = CurrentFileSystem().Open(path, OpenMode::kReadWrite);
-  return file && OverwriteOrRestore(*file, content);
-}
 
 // Whether the next line has to begin with the end of the one before; nothing if that can't be read.
 std::optional<bool> LacksLastLineEnd(File& file, std::uint64_t size) {
@@ -49,21 +21,30 @@ std::optional<bool> LacksLastLineEnd(File& file, std::uint64_t size) {
   return last != '\n';
 }
 
+// Cuts off what a write has added, unless others have written behind it.
+bool TakeBack(File& file, std::uint64_t old_size, std::uint64_t added) {
+  const auto size = file.Size();
+  if (!size || *size > old_size + added || !file.Truncate(old_size)) return false;
+  file.Sync();
+  return true;
+}
+
 bool AppendTo(File& file, const std::string& line) {
   const auto size = file.Size();
-  if (!size) return false;
-  const auto lacks_line_end = LacksLastLineEnd(file, *size);
-  if (!lacks_line_end || !file.Seek(*size)) return false;
-  if (file.Write(*lacks_line_end ? "\r\n" + line : line) && file.Sync()) return true;
-  file.Truncate(*size);
-  file.Sync();
-  return false;
+  const auto lacks_line_end = size ? LacksLastLineEnd(file, *size) : std::nullopt;
+  if (!lacks_line_end) return false;
+  const std::string bytes = *lacks_line_end ? "\r\n" + line : line;
+  const bool written = file.Write(bytes);
+  if (written && file.Sync()) return true;
+  // A whole line that can't be cut off stands in the file, and others will read it.
+  return !TakeBack(file, *size, bytes.size()) && written;
 }
 
 }  // namespace
 
 LineReader::LineReader(const char* path, std::size_t limit)
     : file_(CurrentFileSystem().Open(NativePath(path), OpenMode::kRead)),
+      missing_(!file_ && orreryui::IsMissing(path)),
       longest_(limit - 1),
       // Room for a whole line with its CR LF, wherever it begins.
       block_size_(file_ ? std::max(kBlockSize, longest_ + 2) : 0),
@@ -133,43 +114,34 @@ std::string LineReader::ReadRest() {
 }
 
 bool CreateFile(const char* path, std::string_view content) {
-  const std::string native = NativePath(path);
-  if (const auto file = CurrentFileSystem().Open(native, OpenMode::kReadWrite)) {
-    return OverwriteOrRestore(*file, content);
-  }
-  return CreateAt(native, content);
+  const ListedOnce listed_once;
+  const auto target = CurrentFileSystem().Target(NativePath(path));
+  if (!target) return false;
+  if (ReplaceFile(*target, SecondName(*target), content)) return true;
+  return IsMissing(path) && CreateWhole(*target, content);
 }
 
 bool AppendLine(const char* path, const char* line, IfMissing if_missing) {
-  const std::string native = NativePath(path);
+  const ListedOnce listed_once;
+  const auto target = CurrentFileSystem().Target(NativePath(path));
+  if (!target) return false;
   const std::string bytes = std::string(line) + "\r\n";
-  if (const auto file = CurrentFileSystem().Open(native, OpenMode::kReadWrite)) {
+  if (const auto file = OpenLocked(*target, OpenMode::kAppend)) {
+    RemoveLeftBehind(SecondName(*target));
     return AppendTo(*file, bytes);
   }
-  return if_missing == IfMissing::kCreate && CreateAt(native, bytes);
+  return if_missing == IfMissing::kCreate && IsMissing(path) && CreateWhole(*target, bytes);
 }
 
 bool RewriteInPlace(const char* path, std::string_view content) {
-  return RewriteAt(NativePath(path), content);
+  const auto target = CurrentFileSystem().Target(NativePath(path));
+  return target && ReplaceFile(*target, SecondName(*target), content);
 }
 
 bool ReplaceThroughNewFile(const char* path, const char* new_path, std::string_view content) {
-  FileSystem& files = CurrentFileSystem();
-  const std::string native = NativePath(path);
-  const std::string new_native = NativePath(new_path);
-  const auto old_file = files.Open(native, OpenMode::kReadWrite);
-  const auto old = old_file ? ReadAll(*old_file) : std::nullopt;
-  if (!old) return false;
-  // A second file that was left behind when a process died is nobody's.
-  files.Remove(new_native);
-  if (!CreateAt(new_native, content)) return false;
-  if (!files.Rename(new_native, native)) {
-    files.Remove(new_native);
-    return false;
-  }
-  if (files.SyncFolderOf(native)) return true;
-  RewriteAt(native, *old);
-  return false;
+  const auto target = CurrentFileSystem().Target(NativePath(path));
+  if (!target) return false;
+  return ReplaceFile(*target, FolderOf(*target) + NameToCreate(new_path), content);
 }
 
 bool FileExists(const char* path) {
@@ -188,10 +160,9 @@ bool RenameFile(const char* from, const char* to) {
   FileSystem& files = CurrentFileSystem();
   const std::string old_name = NativePath(from);
   const std::string new_name = NativePath(to);
-  if (files.Stat(new_name) || !files.Rename(old_name, new_name)) return false;
+  if (!files.IsMissing(new_name) || !files.Rename(old_name, new_name)) return false;
   if (files.SyncFolderOf(new_name)) return true;
-  files.Rename(new_name, old_name);
-  return false;
+  return !files.Rename(new_name, old_name);
 }
 
 }  // namespace orreryui

@@ -7,6 +7,15 @@
 //
 // All that changes a file returns true once the change is on the disk. False means that the file
 // is what it was before: what was half written has been taken back.
+//
+// New content becomes visible at one moment: a second file, hidden beside the first, takes its
+// place with its owner, its mode and all that else is said of who may use it, and what symbolic
+// links lead to is replaced, not they. If the process ends meanwhile, the next writer removes the
+// second file. Only a file that has several names, whose owner can't be kept or whose folder can't
+// be written is overwritten where it lies.
+//
+// Writers of this library lock the file meanwhile. One that another process keeps locked for more
+// than about a second can't be changed.
 #ifndef ORRERYUI_FRAME_LINE_FILE_H_
 #define ORRERYUI_FRAME_LINE_FILE_H_
 
@@ -32,7 +41,8 @@ namespace orreryui {
 // text of its line: what stands behind it in the line is dropped.
 //
 // The last line needs no LF. If it has one, an empty line comes behind it as the last of all. A
-// file that is empty, is missing or can't be opened has no lines.
+// file that is empty, is missing or can't be opened has no lines. Only of one that is missing or
+// was read to its end is it known what it holds; no other may be rewritten from what was read.
 //
 // The reader holds a block of the file in memory and never a whole line that is longer.
 class LineReader {
@@ -50,6 +60,10 @@ class LineReader {
   // Whether the file was opened.
   bool IsOpen() const { return file_ != nullptr; }
 
+  // Whether there is no such file. One that couldn't be opened for another reason isn't missing:
+  // it may hold lines.
+  bool IsMissing() const { return missing_; }
+
   // Whether reading broke off before the end. The lines so far are then not the whole file, and
   // rewriting it from them would lose the others.
   bool Failed() const { return failed_; }
@@ -59,6 +73,7 @@ class LineReader {
   bool Fill();
 
   std::unique_ptr<File> file_;
+  bool missing_;
   std::size_t longest_;  // bytes that a line may have
   std::size_t block_size_;
   std::unique_ptr<char[]> block_;
@@ -75,16 +90,14 @@ bool CreateFile(const char* path, std::string_view content);
 
 enum class IfMissing { kFail, kCreate };
 
-// Adds `line` and CR LF at the end of the file. If its last line lacks the line end, it gets one
-// first, so that two lines never become one.
+// Adds `line` and CR LF at the end of the file, behind what others may have added meanwhile. If its
+// last line lacks the line end, it gets one first, so that two lines never become one.
 bool AppendLine(const char* path, const char* line, IfMissing if_missing);
 
-// Gives a file that must exist new content; nothing of the old one stays behind it.
+// Gives a file that must exist new content.
 bool RewriteInPlace(const char* path, std::string_view content);
 
-// Writes the content to `new_path`, in the same folder, and lets it take the place of the file
-// `path`, which must exist. At each moment the name `path` leads to the whole old content or to
-// the whole new one. No second file stays behind, whatever happens.
+// The same, where the second file has the name of `new_path`, which is no other file's.
 bool ReplaceThroughNewFile(const char* path, const char* new_path, std::string_view content);
 
 // Whether there is a file, not a folder, of this name that can be opened for reading.

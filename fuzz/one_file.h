@@ -23,10 +23,12 @@ class OneFile final : public FileSystem {
   }
   bool Remove(const std::string&) override { return false; }
   bool Rename(const std::string&, const std::string&) override { return false; }
+  std::optional<std::string> Target(const std::string& path) override { return path; }
   std::optional<FileInfo> Stat(const std::string&) override {
     return FileInfo{.kind = FileInfo::Kind::kFile, .size = content_.size()};
   }
-  std::vector<std::string> List(const std::string&) override { return {}; }
+  bool IsMissing(const std::string&) override { return false; }
+  std::optional<std::vector<std::string>> List(const std::string&) override { return std::nullopt; }
   bool SyncFolderOf(const std::string&) override { return false; }
 
  private:
@@ -46,6 +48,11 @@ class OneFile final : public FileSystem {
     std::optional<std::uint64_t> Size() override { return content_.size(); }
     bool Truncate(std::uint64_t) override { return false; }
     bool Sync() override { return false; }
+    bool Lock(std::chrono::milliseconds) override { return true; }
+    bool HasName(const std::string&) override { return true; }
+    std::uint64_t CountNames() override { return 1; }
+    std::optional<FileAttributes> Attributes() override { return std::nullopt; }
+    bool SetAttributes(const FileAttributes&) override { return false; }
 
    private:
     std::string_view content_;

@@ -49,11 +49,13 @@ CString OnAlbumUpdate(int code, CString state, CString album_file, CString place
   dialog.m_strLongitude = longitude;
   dialog.m_strLatitude = latitude;
   dialog.m_strEditor = editor;
-  if (dialog.DoModal() == IDOK) {
+  const int end = dialog.DoModal();
+  if (end == IDOK) {
     const int end_state = dialog.m_nCode == 0 ? kGoOn : kStoreTexts;
     return ResultString().Number(dialog.m_nCode).Number(end_state).End(PointOf(dialog));
   }
-  if (dialog.m_nCode == -1) return ResultString().Number(code).Number(kDelete).End("");
+  // A dialog that couldn't be shown asks for no deletion, whatever code came in.
+  if (end != -1 && dialog.m_nCode == -1) return ResultString().Number(code).Number(kDelete).End("");
   return CString();
 }
 

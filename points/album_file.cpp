@@ -16,12 +16,17 @@ CString Compose(const DataLine& data) {
   return line;
 }
 
+bool IsWritten(const CString& line) {
+  return line[0] != ';' && line.GetLength() < static_cast<int>(kLineLimit);
+}
+
 bool HoldsData(const CString& line) { return !line.IsEmpty() && line[0] != ';' && line[0] != 'M'; }
 
 }  // namespace
 
 bool AppendAlbumLine(const CString& path, bool first, const DataLine& data) {
   const CString line = Compose(data);
+  if (!IsWritten(line)) return false;
   return first ? CreateFile(path, std::string(line) + "\r\n")
                : AppendLine(path, line, IfMissing::kFail);
 }

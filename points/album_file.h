@@ -28,7 +28,8 @@ inline constexpr char kEndMarker[] = "999";
 
 // Adds a line for `data`, which has a place and at least one of the two files. `first` starts the
 // album: the file is made, or loses what it held. Otherwise it must exist. False: the file is as it
-// was.
+// was, since the disk refused, or a line that begins with ; or has more than 199 bytes would be
+// lost or cut.
 bool AppendAlbumLine(const CString& path, bool first, const DataLine& data);
 
 // Makes an album without data; a file that exists loses what it held. False: it is as it was.

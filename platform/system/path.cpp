@@ -62,22 +62,36 @@ class Name {
   const std::string& Spelled() const { return utf8_; }
   const std::string& Raw() const { return raw_; }
 
-  // The name in a folder that differs only by case, or the empty string.
-  std::string FindIn(const std::string& folder) const {
-    std::vector<std::string> names = CurrentFileSystem().List(folder);
-    std::sort(names.begin(), names.end());
-    auto found = std::find_if(names.begin(), names.end(), [&](const std::string& name) {
-      const Encoded encoded = FromUtf8(name);
-      return encoded.refused.empty() && Fold(encoded.bytes) == folded_utf8_;
-    });
-    if (found == names.end()) {
-      found = std::find_if(names.begin(), names.end(),
-                           [&](const std::string& name) { return Fold(name) == folded_; });
+  // The first of the names, in byte order, that differs only by case, or the empty string. UTF-8
+  // comes before the bytes of the code page.
+  std::string FindAmong(const std::vector<std::string>& names) const {
+    std::string found;
+    std::string found_raw;
+    for (const std::string& name : names) {
+      if (IsLessOrFirst(name, found) && MatchesUtf8(name)) found = name;
+      if (IsLessOrFirst(name, found_raw) && MatchesRaw(name)) found_raw = name;
     }
-    return found == names.end() ? std::string() : *found;
+    return found.empty() ? found_raw : found;
   }
 
  private:
+  static bool IsLessOrFirst(const std::string& name, const std::string& found) {
+    return found.empty() || name < found;
+  }
+  // False for most names of a folder, at no cost: no character gets longer by its encoding.
+  static bool MayMatch(const std::string& name, const std::string& folded) {
+    const std::string first = Fold(name.substr(0, 1));
+    return name.size() >= folded.size() && (first >= "\x80" || first[0] == folded[0]);
+  }
+  bool MatchesRaw(const std::string& name) const {
+    return MayMatch(name, folded_) && Fold(name) == folded_;
+  }
+  bool MatchesUtf8(const std::string& name) const {
+    if (!MayMatch(name, folded_utf8_)) return false;
+    const Encoded encoded = FromUtf8(name);
+    return encoded.refused.empty() && Fold(encoded.bytes) == folded_utf8_;
+  }
+
   std::string raw_;
   std::string utf8_;
   std::string folded_;
@@ -91,25 +105,35 @@ std::string Below(const std::string& folder, const std::string& name) {
 
 bool Exists(const std::string& path) { return CurrentFileSystem().Stat(path).has_value(); }
 
+ListedOnce* outermost = nullptr;
+
+struct Found {
+  std::string native;
+  bool sure = true;  // false: a folder that may hold the name couldn't be read
+};
+
 // Goes down from folder to folder, as far as there are any.
-std::string FindBelow(std::string native, const std::vector<Name>& names) {
+Found FindBelow(std::string native, const std::vector<Name>& names) {
   bool found = true;
+  bool sure = true;
   for (const Name& name : names) {
     std::string next = Below(native, name.Spelled());
     if (found && !Exists(next)) {
-      const bool is_raw = Exists(Below(native, name.Raw()));
-      const std::string other = is_raw ? name.Raw() : name.FindIn(native.empty() ? "." : native);
-      found = !other.empty();
+      std::string other = name.Raw();
+      if (!Exists(Below(native, other))) {
+        const auto there = ListedOnce::NamesIn(native.empty() ? "." : native);
+        sure = there != nullptr;
+        other = sure ? name.FindAmong(*there) : std::string();
+      }
+      found = !other.empty() && Exists(Below(native, other));
       if (found) next = Below(native, other);
     }
     native = std::move(next);
   }
-  return native;
+  return {native, sure};
 }
 
-}  // namespace
-
-std::string NativePath(std::string_view path) {
+Found Find(std::string_view path) {
   if (HasDrive(path)) path.remove_prefix(2);
   const std::string root(!path.empty() && IsSeparator(path[0]) ? 1 : 0, '/');
   std::vector<Name> names;
@@ -117,7 +141,45 @@ std::string NativePath(std::string_view path) {
   for (const std::string_view bytes : SplitNames(path)) {
     spelled = Below(spelled, names.emplace_back(bytes).Spelled());
   }
-  return Exists(spelled) ? spelled : FindBelow(root, names);
+  return Exists(spelled) ? Found{spelled} : FindBelow(root, names);
+}
+
+}  // namespace
+
+std::string NameToCreate(std::string_view path) {
+  if (HasDrive(path)) path.remove_prefix(2);
+  const auto names = SplitNames(path);
+  return names.empty() ? std::string() : Name(names.back()).Spelled();
+}
+
+ListedOnce::ListedOnce() {
+  if (!outermost) outermost = this;
+}
+
+ListedOnce::~ListedOnce() {
+  if (outermost == this) outermost = nullptr;
+}
+
+ListedOnce::Names ListedOnce::NamesIn(const std::string& folder) {
+  if (outermost && outermost->listed_.contains(folder)) return outermost->listed_.at(folder);
+  auto listed = CurrentFileSystem().List(folder);
+  if (!listed) return nullptr;
+  auto names = std::make_shared<const std::vector<std::string>>(std::move(*listed));
+  if (outermost) outermost->listed_.emplace(folder, names);
+  return names;
+}
+
+std::string NativePath(std::string_view path) { return Find(path).native; }
+
+bool IsMissing(std::string_view path) {
+  const Found found = Find(path);
+  return found.sure && CurrentFileSystem().IsMissing(found.native);
+}
+
+bool LeadsOut(const char* path) {
+  if (HasDrive(path) || IsSeparator(path[0])) return true;
+  const auto names = SplitNames(path);
+  return std::find(names.begin(), names.end(), "..") != names.end();
 }
 
 std::string RefusedInPath(const std::string& native) {

@@ -5,7 +5,7 @@
 #include <string>
 
 #include "platform/strings/japanese_literal.h"
-#include "tests/operations/test_folder.h"
+#include "tests/support/test_folder.h"
 
 namespace orreryui {
 namespace {
@@ -115,33 +115,31 @@ TEST_F(PaletteFileTest, WritesEachByteAtItsPlace) {
   for (std::size_t i = 0; i < colours.size(); ++i) {
     colours[i] = ColourOf(static_cast<int>(i), 100, 255);
   }
-  ASSERT_TRUE(WritePaletteFile(Path(), "配色|表"_sj, colours, PaletteWrite::kNew));
-  std::string expected = std::string(";") + "配色|表"_sj + "  " + folder.Path().string() +
-                         "/Orbis1.plt  \r\n" + "   0   0 100 255    青（海域）  1:15\r\n"_sj +
-                         "   1   1 100 255         0m\r\n"
-                         " 100   2 100 255       100m\r\n"
-                         " 200   3 100 255       200m\r\n"
-                         " 500   4 100 255       500m\r\n"
-                         "1000   5 100 255     1,000m\r\n"
-                         "1500   6 100 255     1,500m\r\n"
-                         "2000   7 100 255     2,000m\r\n"
-                         "2500   8 100 255     2,500m\r\n"
-                         "3000   9 100 255     3,000m\r\n"
-                         "4000  10 100 255     4,000m\r\n";
-  EXPECT_EQ(folder.Read(kFile), expected);
+  std::string expected =
+      ";配色|表  /p/Orbis1.plt  \r\n"
+      "   0   0 100 255    青（海域）  1:15\r\n"_sj
+      "   1   1 100 255         0m\r\n"
+      " 100   2 100 255       100m\r\n"
+      " 200   3 100 255       200m\r\n"
+      " 500   4 100 255       500m\r\n"
+      "1000   5 100 255     1,000m\r\n"
+      "1500   6 100 255     1,500m\r\n"
+      "2000   7 100 255     2,000m\r\n"
+      "2500   8 100 255     2,500m\r\n"
+      "3000   9 100 255     3,000m\r\n"
+      "4000  10 100 255     4,000m\r\n";
+  EXPECT_EQ(PaletteText("/p/Orbis1.plt", "配色|表"_sj, colours), expected);
 
   // A black band is left out.
   colours[4] = kBlack;
-  ASSERT_TRUE(WritePaletteFile(Path(), "配色|表"_sj, colours, PaletteWrite::kUpdate));
   const std::string row = " 500   4 100 255       500m\r\n";
   expected.erase(expected.find(row), row.size());
-  EXPECT_EQ(folder.Read(kFile), expected);
-
-  ASSERT_TRUE(WritePaletteFile(Path(), "n", RowColours{}, PaletteWrite::kUpdate));
-  EXPECT_EQ(folder.Read(kFile), ";n  " + folder.Path().string() + "/Orbis1.plt  \r\n" +
-                                    "   0   0   0   0    青（海域）  1:15\r\n"_sj +
-                                    "   1   0   0   0         0m\r\n"
-                                    "4000   0   0   0     4,000m\r\n");
+  EXPECT_EQ(PaletteText("/p/Orbis1.plt", "配色|表"_sj, colours), expected);
+  EXPECT_EQ(PaletteText("p", "n", RowColours{}),
+            std::string(";n  p  \r\n"
+                        "   0   0   0   0    青（海域）  1:15\r\n"
+                        "   1   0   0   0         0m\r\n"
+                        "4000   0   0   0     4,000m\r\n"_sj));
 }
 
 TEST_F(PaletteFileTest, WhatALongNameLeavesOverIsOverwrittenByTheRows) {
@@ -150,7 +148,7 @@ TEST_F(PaletteFileTest, WhatALongNameLeavesOverIsOverwrittenByTheRows) {
   // What a line can't hold comes as a row of its own.
   for (const char letter : {'n', '1', '-'}) {
     const std::string name(150, letter);
-    ASSERT_TRUE(WritePaletteFile(Path(), name.c_str(), written, PaletteWrite::kNew));
+    folder.Write(kFile, PaletteText(Path(), name.c_str(), written));
     const LevelColours exact = ExactColours(ReadPalette(Path()));
     const LevelColours blended = InterpolatedColours(ReadPalette(Path()));
     for (std::size_t row = 0; row < written.size(); ++row) {
@@ -159,11 +157,6 @@ TEST_F(PaletteFileTest, WhatALongNameLeavesOverIsOverwrittenByTheRows) {
       EXPECT_EQ(blended[level], 0x123456u) << letter << row;
     }
   }
-}
-
-TEST_F(PaletteFileTest, AnUpdateNeedsTheFile) {
-  EXPECT_FALSE(WritePaletteFile(Path(), "n", RowColours{}, PaletteWrite::kUpdate));
-  EXPECT_EQ(folder.Read(kFile), std::nullopt);
 }
 
 }  // namespace

@@ -2,37 +2,20 @@
 
 #include <gtest/gtest.h>
 
-#include <map>
+#include <functional>
 
 #include "platform/strings/japanese_literal.h"
-#include "tests/files/faulty_file_system.h"
-#include "tests/operations/test_folder.h"
+#include "tests/support/each_fault.h"
+#include "tests/support/test_folder.h"
 
 namespace orreryui {
 namespace {
 
 constexpr char kList[] = "PLTTFILE.DAT";
 
-using Files = std::map<std::string, std::string>;
-
 class PaletteListTest : public testing::Test {
  protected:
-  // Replaces all files of the folder.
-  void Lay(const Files& files) const {
-    for (const auto& entry : std::filesystem::directory_iterator(folder.Path())) {
-      std::filesystem::remove(entry.path());
-    }
-    for (const auto& [name, bytes] : files) folder.Write(name, bytes);
-  }
-  Files Found() const {
-    Files files;
-    for (const auto& entry : std::filesystem::directory_iterator(folder.Path())) {
-      const std::string name = entry.path().filename().string();
-      files[name] = *folder.Read(name);
-    }
-    return files;
-  }
-  // Lays out a list and palette files whose content is the name that they begin with.
+  // A list and palette files whose content is the name that they begin with.
   static Files Layout(const std::string& list, const std::vector<std::string>& palettes) {
     Files files = {{kList, list}};
     for (const std::string& name : palettes) files[name] = name;
@@ -107,27 +90,27 @@ TEST_F(PaletteListTest, NamesNewFilesByCountAndTakesNoNameInUse) {
       {"a$winter.plt\nb$Orbis2.plt\n", {"ORBIS2.PLT", "orbis3.plt"}, "Orbis4.plt"},
   };
   for (const auto& [list, files, expected] : cases) {
-    Lay(Layout(list, files));
+    folder.Lay(Layout(list, files));
     const CString folder_name = folder.Argument();
     EXPECT_EQ(NewPaletteFile(folder_name, ReadPaletteList(folder_name)), expected) << list;
   }
 }
 
-TEST_F(PaletteListTest, AddsBehindTheEntriesAndNeedsTheFile) {
-  const auto add = [this] {
-    return AddPaletteEntry(folder.Argument(), ReadPaletteList(folder.Argument()), {"n", "f"});
-  };
+TEST_F(PaletteListTest, AddsBehindTheEntriesAndNeedsTheList) {
+  const auto add = [this] { return AddPaletteEntry(folder.Argument(), {"n", "f"}, "rows"); };
   EXPECT_FALSE(add());
-  EXPECT_TRUE(Found().empty());
+  EXPECT_TRUE(folder.Content().empty());
   const std::pair<std::string, std::string> cases[] = {
       {"", "n$f\r\n"},
       {"a$b\nc$d", "a$b\nc$d\r\nn$f\r\n"},
-      {"a$b\n\nc$d\n", "a$b\r\nn$f\r\n\nc$d\n"},
+      {"a$b\n\nc$d\n", "a$b\nn$f\r\n\nc$d\n"},
   };
   for (const auto& [list, expected] : cases) {
-    folder.Write(kList, list);
+    folder.Lay({{kList, list}});
     EXPECT_TRUE(add());
-    EXPECT_EQ(folder.Read(kList), expected);
+    EXPECT_EQ(folder.Content(), (Files{{kList, expected}, {"f", "rows"}}));
+    EXPECT_FALSE(add()) << "the file is there";
+    EXPECT_EQ(folder.Content(), (Files{{kList, expected}, {"f", "rows"}}));
   }
 }
 
@@ -176,80 +159,89 @@ TEST_F(PaletteListTest, RemovesOneFileAndRenumbersThoseBehindIt) {
        Layout("a$Orbis1.plt\n\nz$orbis1.plt\n", {"Orbis1.plt"}),
        0,
        {{kList, "\nz$orbis1.plt\n"}, {"Orbis1.plt", "Orbis1.plt"}}},
+      {"files that are missing",
+       Layout("a$Orbis1.plt\nb$Orbis2.plt\nc$Orbis3.plt\nd$Orbis4.plt\n",
+              {"Orbis2.plt", "Orbis4.plt"}),
+       0,
+       {{kList, "b$Orbis1.plt\r\nc$Orbis2.plt\r\nd$Orbis3.plt\r\n"},
+        {"Orbis1.plt", "Orbis2.plt"},
+        {"Orbis3.plt", "Orbis4.plt"}}},
+      {"a missing file of a name that another entry keeps",
+       Layout("a$\nb$Orbis1.plt\nc$Orbis3.plt\n", {"Orbis3.plt"}),
+       0,
+       {{kList, "b$Orbis1.plt\r\nc$Orbis2.plt\r\n"}, {"Orbis2.plt", "Orbis3.plt"}}},
       {"lines behind the twentieth",
        Layout("n$f1\nn$f2\nn$f3\nn$f4\n" + lines, {"f2"}),
        1,
        {{kList, "n$f1\r\nn$f3\r\nn$f4\r\n" + lines}}},
   };
   for (const RemoveCase& expected : cases) {
-    Lay(expected.before);
+    folder.Lay(expected.before);
     EXPECT_TRUE(Remove(expected.number)) << expected.what;
-    EXPECT_EQ(Found(), expected.after) << expected.what;
+    EXPECT_EQ(folder.Content(), expected.after) << expected.what;
   }
 }
 
-TEST_F(PaletteListTest, AMissingFileStopsARemovalBeforeAnythingIsLost) {
-  const Files cases[] = {
-      Layout("a$Orbis1.plt\nb$Orbis2.plt\n", {"Orbis2.plt"}),
-      Layout("a$\nb$Orbis2.plt\n", {"Orbis2.plt"}),
-      Layout("a$Orbis1.plt\nb$Orbis2.plt\nc$Orbis3.plt\n", {"Orbis1.plt", "Orbis2.plt"}),
+TEST_F(PaletteListTest, ARemovalStartsFromTheListAsItIsByThen) {
+  const Files shown = Layout("a$Orbis1.plt\nb$Orbis2.plt\na$Orbis1.plt\n", {"Orbis1.plt"});
+  const std::tuple<std::string, std::size_t, std::string> cases[] = {
+      {"a$Orbis1.plt\nb$Orbis2.plt\nc$d\n", 1u, "a$Orbis1.plt\r\nc$d\r\n"},
+      {"a$Orbis1.plt\nx$y\na$Orbis1.plt\n", 2u, "a$Orbis1.plt\r\nx$y\r\n"},
+      {"a$Orbis1.plt\n", 2u, ""},
+      {"b$Orbis1.plt\n", 1u, ""},
+      {"", 0u, ""},
   };
-  for (const Files& files : cases) {
-    Lay(files);
-    EXPECT_FALSE(Remove(0));
-    EXPECT_EQ(Found(), files);
+  for (const auto& [list, number, after] : cases) {
+    folder.Lay(shown);
+    PaletteList read = ReadPaletteList(folder.Argument());
+    folder.Write(kList, list);
+    EXPECT_EQ(RemovePaletteEntry(folder.Argument(), read, number), !after.empty()) << list;
+    EXPECT_EQ(folder.Read(kList), after.empty() ? list : after);
+    EXPECT_EQ(folder.Read("Orbis1.plt"), "Orbis1.plt");
   }
 }
 
-TEST_F(PaletteListTest, ARemovalIsTakenBackIfAnyStepFails) {
+TEST_F(PaletteListTest, AChangeThatIsKilledIsMadeOrIsNot) {
   const Files before = Layout("a$Orbis1.plt\nb$Orbis2.plt\nc$Orbis3.plt\n\nrest",
                               {"Orbis1.plt", "Orbis2.plt", "Orbis3.plt"});
-  const Files after = {{kList, "b$Orbis1.plt\r\nc$Orbis2.plt\r\n\nrest"},
-                       {"Orbis1.plt", "Orbis2.plt"},
-                       {"Orbis2.plt", "Orbis3.plt"}};
-  int refusals = 0;
-  bool failed = true;
-  for (int failing = 1; failed; ++failing) {
-    Lay(before);
-    PaletteList list = ReadPaletteList(folder.Argument());
-    FaultyFileSystem files(failing);
-    bool removed = false;
-    {
-      ScopedFileSystem scope(files);
-      removed = RemovePaletteEntry(folder.Argument(), list, 0);
-    }
-    EXPECT_EQ(Found(), removed ? after : before) << "call " << failing;
-    EXPECT_EQ(list.entries.size(), removed ? 2u : 3u) << "call " << failing;
-    EXPECT_EQ(list.entries[1].file, "Orbis2.plt") << "call " << failing;
-    refusals += removed ? 0 : 1;
-    failed = files.calls() >= failing;
+  const std::pair<std::function<void()>, Files> changes[] = {
+      {[this] { Remove(0); },
+       {{kList, "b$Orbis1.plt\r\nc$Orbis2.plt\r\n\nrest"},
+        {"Orbis1.plt", "Orbis2.plt"},
+        {"Orbis2.plt", "Orbis3.plt"}}},
+      {[this] {
+         AddPaletteEntry(folder.Argument(), {"d", "Orbis4.plt"}, "Orbis4.plt");
+       },
+       Layout("a$Orbis1.plt\nb$Orbis2.plt\nc$Orbis3.plt\nd$Orbis4.plt\r\n\nrest",
+              {"Orbis1.plt", "Orbis2.plt", "Orbis3.plt", "Orbis4.plt"})},
+  };
+  for (const auto& [change, after] : changes) {
+    bool made = false;
+    ForEachKill([&] { folder.Lay(before); }, change,
+                [&] {
+                  // Whoever opens the list brings it about.
+                  if (made) ReadPaletteLine(folder.Argument(), 0);
+                  ReadPaletteList(folder.Argument());
+                  made = folder.Content() == after;
+                  EXPECT_TRUE(made || folder.Content() == before);
+                });
+    EXPECT_TRUE(made) << "once nothing was killed";
   }
-  EXPECT_GT(refusals, 10);
 }
 
-TEST_F(PaletteListTest, AListThatReadsInPartIsNotRewritten) {
-  Lay(Layout("a$Orbis1.plt\n\nb$Orbis2.plt\n", {"Orbis1.plt"}));
-  const Files before = Found();
+TEST_F(PaletteListTest, OnlyAListThatIsWholeCountsAsComplete) {
+  folder.Lay(Layout("a$Orbis1.plt\n\nb$Orbis2.plt\n", {}));
   int incomplete = 0;
-  bool failed = true;
-  for (int failing = 1; failed; ++failing) {
-    FaultyFileSystem files(failing);
-    PaletteList list;
-    {
-      ScopedFileSystem scope(files);
-      list = ReadPaletteList(folder.Argument());
+  ForEachFault([&](FaultyFileSystem& files) {
+    const ScopedFileSystem scope(files);
+    const PaletteList list = ReadPaletteList(folder.Argument());
+    if (list.complete) {
+      EXPECT_EQ(list.entries.size(), 1u);
+      EXPECT_EQ(list.rest, "\nb$Orbis2.plt\n");
     }
-    failed = files.calls() >= failing;
-    EXPECT_EQ(list.complete, !failed) << "call " << failing;
-    if (list.complete) continue;
-    ++incomplete;
-    EXPECT_FALSE(AddPaletteEntry(folder.Argument(), list, {"n", "f"}));
-    if (!list.entries.empty()) {
-      EXPECT_FALSE(RemovePaletteEntry(folder.Argument(), list, 0));
-    }
-  }
-  EXPECT_GT(incomplete, 2);
-  EXPECT_EQ(Found(), before);
+    incomplete += list.complete ? 0 : 1;
+  });
+  EXPECT_GT(incomplete, 4);
 }
 
 }  // namespace

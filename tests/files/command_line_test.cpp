@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "platform/strings/code_page_932.h"
-#include "tests/operations/test_folder.h"
+#include "tests/support/test_folder.h"
 
 namespace orreryui {
 namespace {

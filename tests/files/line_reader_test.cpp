@@ -1,12 +1,13 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <sys/resource.h>
 
 #include <string>
 #include <vector>
 
 #include "frame/line_file.h"
-#include "tests/files/faulty_file_system.h"
-#include "tests/operations/test_folder.h"
+#include "tests/support/faulty_file_system.h"
+#include "tests/support/test_folder.h"
 
 namespace orreryui {
 namespace {
@@ -100,6 +101,32 @@ TEST_F(LineReaderTest, WhatCannotBeOpenedHasNoLines) {
   EXPECT_EQ(ReadFile("missing", 99), Lines());
   EXPECT_EQ(ReadFile(".", 99), Lines()) << "a folder";
   EXPECT_FALSE(LineReader("", 99).IsOpen());
+}
+
+TEST_F(LineReaderTest, TellsAMissingFileFromOneThatCannotBeOpened) {
+  const auto is_missing = [this](const std::string& name) {
+    const LineReader reader((folder_.Path() / name).c_str(), 99);
+    EXPECT_FALSE(reader.IsOpen()) << name;
+    return reader.IsMissing();
+  };
+  folder_.Write("file", "line");
+  std::filesystem::create_symlink("nowhere", folder_.Path() / "link");
+  std::filesystem::create_symlink("loop", folder_.Path() / "loop");
+  for (const char* name : {"missing", "none/f", "file/f", "link"}) {
+    EXPECT_TRUE(is_missing(name)) << name;
+  }
+  for (const char* name : {".", "loop"}) EXPECT_FALSE(is_missing(name)) << name;
+  EXPECT_FALSE(LineReader((folder_.Path() / "FILE").c_str(), 99).IsMissing());
+
+  rlimit before{};
+  ASSERT_EQ(getrlimit(RLIMIT_NOFILE, &before), 0);
+  const rlimit none{0, before.rlim_max};
+  ASSERT_EQ(setrlimit(RLIMIT_NOFILE, &none), 0);
+  const bool same_case = is_missing("file");
+  const bool other_case = is_missing("FILE");
+  ASSERT_EQ(setrlimit(RLIMIT_NOFILE, &before), 0);
+  EXPECT_FALSE(same_case);
+  EXPECT_FALSE(other_case) << "the folder can't be read";
 }
 
 TEST_F(LineReaderTest, ReadsAHugeLineInPieces) {

@@ -1,65 +1,60 @@
 #include <gtest/gtest.h>
 #include <signal.h>
 #include <sys/resource.h>
+#include <sys/stat.h>
 #include <sys/wait.h>
+#include <sys/xattr.h>
 #include <unistd.h>
 
 #include <functional>
-#include <map>
+#include <optional>
 #include <string>
+#include <vector>
 
 #include "frame/line_file.h"
-#include "tests/files/faulty_file_system.h"
-#include "tests/operations/test_folder.h"
+#include "tests/support/each_fault.h"
+#include "tests/support/test_folder.h"
 
 namespace orreryui {
 namespace {
-
-using Files = std::map<std::string, std::string>;  // names and bytes of a folder
 
 class LineWriterTest : public testing::Test {
  protected:
   std::string PathOf(const std::string& name) const { return (folder_.Path() / name).string(); }
 
-  void Fill(const Files& files) const {
-    for (const auto& entry : std::filesystem::directory_iterator(folder_.Path())) {
-      std::filesystem::remove_all(entry.path());
-    }
-    for (const auto& [name, bytes] : files) folder_.Write(name, bytes);
-  }
-
-  Files Content() const {
-    Files files;
-    for (const auto& entry : std::filesystem::directory_iterator(folder_.Path())) {
-      const std::string name = entry.path().filename().string();
-      files[name] = folder_.Read(name).value_or("");
-    }
-    return files;
-  }
-
-  // Fails each call of `change` in turn. The folder must hold `before` after a change that says it
-  // failed, and `after` when it says that it worked.
+  // Plays `change` with a fault at each of its calls, and kills a process that makes it at each.
+  // The folder must hold `before` or `after`, and what a change says that it did. Tried again, it
+  // succeeds and leaves nothing beside.
   void ExpectAllOrNothing(const Files& before, const Files& after,
                           const std::function<bool()>& change) const {
-    for (int call = 1;; ++call) {
-      Fill(before);
-      FaultyFileSystem files(call);
-      bool changed = false;
-      {
-        const ScopedFileSystem scope(files);
-        changed = change();
+    const auto expect = [&](bool changed) {
+      Files found = folder_.Content();
+      // What is left of a second file stays for the next writer.
+      std::erase_if(found, [&](const auto& file) {
+        return !before.contains(file.first) && !after.contains(file.first);
+      });
+      ASSERT_EQ(found, changed ? after : before);
+      EXPECT_TRUE(changed || change());
+      EXPECT_EQ(folder_.Content(), after);
+    };
+    ForEachFault([&](FaultyFileSystem& files) {
+      folder_.Lay(before);
+      std::optional<ScopedFileSystem> scope(files);
+      const bool changed = change();
+      scope.reset();
+      EXPECT_TRUE(changed || files.Failed());
+      if (files.fault() == Fault::kOnce) {
+        EXPECT_EQ(folder_.Content(), changed ? after : before);
+        EXPECT_TRUE(!changed || files.all_on_disk());
       }
-      ASSERT_EQ(Content(), changed ? after : before) << "call " << call;
-      EXPECT_TRUE(!changed || files.all_on_disk()) << "call " << call;
-      if (files.calls() < call) {
-        EXPECT_TRUE(changed);
-        EXPECT_GT(call, 3) << "no call was failed";
-        return;
-      }
-    }
+      expect(changed);
+    });
+    ForEachKill([&] { folder_.Lay(before); }, change, [&] { expect(folder_.Content() == after); });
   }
 
   TestFolder folder_;
+  FaultyFileSystem never_synced_;
+  ScopedFileSystem scope_{never_synced_};
 };
 
 TEST_F(LineWriterTest, CreatesAFileOrNone) {
@@ -95,25 +90,17 @@ TEST_F(LineWriterTest, ReplacesThroughANewFileOrNotAtAll) {
     return ReplaceThroughNewFile(PathOf("f").c_str(), PathOf("f.new").c_str(), "new\r\n");
   };
   ExpectAllOrNothing({{"f", "old content\r\n"}}, {{"f", "new\r\n"}}, replace);
-  Fill({{"f", "old\r\n"}, {"f.new", "left behind, and longer than the new content\r\n"}});
+  folder_.Lay({{"f", "old\r\n"}, {"f.new", "left behind, and longer than the new content\r\n"}});
   EXPECT_TRUE(replace());
-  EXPECT_EQ(Content(), (Files{{"f", "new\r\n"}}));
+  EXPECT_EQ(folder_.Content(), (Files{{"f", "new\r\n"}}));
 }
 
 TEST_F(LineWriterTest, RenamesOrNotAtAll) {
   const auto rename = [&] { return RenameFile(PathOf("a").c_str(), PathOf("b").c_str()); };
-  Fill({{"a", "A"}});
-  {
-    FaultyFileSystem files(2);  // the names can't be brought to the disk
-    const ScopedFileSystem scope(files);
-    EXPECT_FALSE(rename());
-  }
-  EXPECT_EQ(Content(), (Files{{"a", "A"}}));
-  EXPECT_TRUE(rename());
-  EXPECT_EQ(Content(), (Files{{"b", "A"}}));
-  Fill({{"a", "A"}, {"B", "B"}});
+  ExpectAllOrNothing({{"a", "A"}}, {{"b", "A"}}, rename);
+  folder_.Lay({{"a", "A"}, {"B", "B"}});
   EXPECT_FALSE(rename()) << "the name is taken, in another case";
-  EXPECT_EQ(Content(), (Files{{"a", "A"}, {"B", "B"}}));
+  EXPECT_EQ(folder_.Content(), (Files{{"a", "A"}, {"B", "B"}}));
 }
 
 TEST_F(LineWriterTest, WhatMustExistIsNotMade) {
@@ -123,11 +110,11 @@ TEST_F(LineWriterTest, WhatMustExistIsNotMade) {
   EXPECT_FALSE(RemoveFile(PathOf("f").c_str()));
   EXPECT_FALSE(RenameFile(PathOf("f").c_str(), PathOf("g").c_str()));
   EXPECT_FALSE(FileExists(PathOf("f").c_str()));
-  EXPECT_EQ(Content(), Files());
+  EXPECT_EQ(folder_.Content(), Files());
 }
 
 TEST_F(LineWriterTest, RefusesFoldersAndPathsThroughFiles) {
-  Fill({{"file", "x"}});
+  folder_.Lay({{"file", "x"}});
   std::filesystem::create_directory(folder_.Path() / "folder");
   for (const std::string name : {"folder", "missing/f", "file/f"}) {
     EXPECT_FALSE(CreateFile(PathOf(name).c_str(), "new")) << name;
@@ -137,14 +124,130 @@ TEST_F(LineWriterTest, RefusesFoldersAndPathsThroughFiles) {
   EXPECT_EQ(folder_.Read("file"), "x");
 }
 
-// The system itself refuses to let a file grow, as it does on a full disk.
-TEST_F(LineWriterTest, PutsFilesBackWhenTheSystemStopsAWrite) {
-  const std::string old(900, 'o');
-  Fill({{"append", old}, {"rewrite", old}, {"replace", old}});
+// Three ways to give the file `name` new content.
+std::vector<std::function<bool()>> Rewrites(const std::string& path, const std::string& content) {
+  return {[=] { return CreateFile(path.c_str(), content); },
+          [=] { return RewriteInPlace(path.c_str(), content); },
+          [=] { return ReplaceThroughNewFile(path.c_str(), (path + ".new").c_str(), content); }};
+}
+
+TEST_F(LineWriterTest, NewContentTakesOverWhatTheFileWas) {
+  for (const auto& rewrite : Rewrites(PathOf("link"), "new")) {
+    folder_.Lay({{"file", "old"}});
+    std::filesystem::create_directory_symlink(".", folder_.Path() / "here");
+    std::filesystem::create_symlink("here/file", folder_.Path() / "link");
+    ASSERT_EQ(chmod(PathOf("file").c_str(), 0604), 0);
+    if (geteuid() == 0) {
+      ASSERT_EQ(chown(PathOf("file").c_str(), 1234, 2345), 0);
+    }
+    const bool extended = setxattr(PathOf("file").c_str(), "user.x", "1", 1, 0) == 0;
+    struct stat before {};
+    struct stat after {};
+    ASSERT_EQ(stat(PathOf("file").c_str(), &before), 0);
+    EXPECT_TRUE(rewrite());
+    EXPECT_TRUE(is_symlink(folder_.Path() / "link"));
+    EXPECT_EQ(folder_.Read("file"), "new");
+    ASSERT_EQ(stat(PathOf("file").c_str(), &after), 0);
+    EXPECT_NE(before.st_ino, after.st_ino) << "it was not replaced";
+    EXPECT_EQ(before.st_mode, after.st_mode);
+    EXPECT_EQ(before.st_uid, after.st_uid);
+    EXPECT_EQ(before.st_gid, after.st_gid);
+    char value = '\0';
+    EXPECT_TRUE(!extended || getxattr(PathOf("file").c_str(), "user.x", &value, 1) == 1);
+  }
+}
+
+TEST_F(LineWriterTest, AllNamesOfAFileShowItsNewContent) {
+  for (const auto& rewrite : Rewrites(PathOf("one"), "new")) {
+    folder_.Lay({{"one", "old and long"}});
+    create_hard_link(folder_.Path() / "one", folder_.Path() / "two");
+    EXPECT_TRUE(rewrite());
+    EXPECT_EQ(folder_.Content(), (Files{{"one", "new"}, {"two", "new"}}));
+  }
+}
+
+TEST_F(LineWriterTest, CreatesWhatASymbolicLinkLeadsTo) {
+  const std::function<bool()> kWays[] = {
+      [&] { return CreateFile(PathOf("link").c_str(), "new\r\n"); },
+      [&] { return AppendLine(PathOf("link").c_str(), "new", IfMissing::kCreate); }};
+  for (const auto& create : kWays) {
+    folder_.Lay({});
+    std::filesystem::create_symlink("second", folder_.Path() / "link");
+    std::filesystem::create_symlink(PathOf("file"), folder_.Path() / "second");
+    EXPECT_TRUE(create());
+    const Files expected{{"file", "new\r\n"}, {"link", "new\r\n"}, {"second", "new\r\n"}};
+    EXPECT_EQ(folder_.Content(), expected);
+    EXPECT_TRUE(is_symlink(folder_.Path() / "second"));
+  }
+}
+
+// One process adds lines, the other's writes fail when they are half done.
+TEST_F(LineWriterTest, TakingALineBackCutsNoOtherOff) {
+  constexpr int kLines = 2000;
+  const auto append = [&](const std::string& line) {
+    return AppendLine(PathOf("f").c_str(), line.c_str(), IfMissing::kCreate);
+  };
+  folder_.Lay({{"f", ""}});
   const pid_t child = fork();
   ASSERT_NE(child, -1);
   if (child == 0) {
-    signal(SIGXFSZ, SIG_IGN);
+    int added = 0;
+    for (int i = 0; i < kLines; ++i) added += append(std::to_string(i)) ? 1 : 0;
+    _exit(added == kLines ? 0 : 1);
+  }
+  FaultyFileSystem counter;
+  {
+    const ScopedFileSystem scope(counter);
+    EXPECT_TRUE(append("0"));
+  }
+  bool any = false;
+  for (int i = 0; i < kLines; ++i) {
+    FaultyFileSystem files(counter.calls());  // the last call is that which syncs
+    const ScopedFileSystem scope(files);
+    any = append("half a line") || any;
+  }
+  int status = 0;
+  ASSERT_EQ(waitpid(child, &status, 0), child);
+  EXPECT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) == 0) << status;
+  EXPECT_FALSE(any);
+  std::size_t size = 3;
+  for (int i = 0; i < kLines; ++i) size += std::to_string(i).size() + 2;
+  const std::string found = folder_.Read("f").value_or("");
+  EXPECT_EQ(found.size(), size);
+  EXPECT_EQ(found.find("half"), std::string::npos);
+}
+
+// Whoever reads meanwhile finds one content or the other, and no writer spoils what another writes.
+TEST_F(LineWriterTest, TwoProcessesReplaceOneFile) {
+  const auto write = [&](char letter) {
+    int written = 0;
+    const std::string content(5000, letter);
+    for (int i = 0; i < 300; ++i) {
+      written += CreateFile(PathOf("f").c_str(), content) ? 1 : 0;
+      const std::string found = folder_.Read("f").value_or("");
+      const bool is_whole = found.size() == 5000 && found.find_first_not_of(found[0]) > 5000;
+      if (!is_whole) return 0;
+    }
+    return written;
+  };
+  const pid_t child = fork();
+  ASSERT_NE(child, -1);
+  if (child == 0) _exit(write('b') > 0 ? 0 : 1);
+  EXPECT_GT(write('a'), 0);
+  int status = 0;
+  ASSERT_EQ(waitpid(child, &status, 0), child);
+  EXPECT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) == 0) << status;
+  EXPECT_EQ(folder_.Content().size(), 1u);
+}
+
+// The system itself refuses to let a file grow, as it does on a full disk, and would end the
+// process.
+TEST_F(LineWriterTest, PutsFilesBackWhenTheSystemStopsAWrite) {
+  const std::string old(900, 'o');
+  folder_.Lay({{"append", old}, {"rewrite", old}, {"replace", old}});
+  const pid_t child = fork();
+  ASSERT_NE(child, -1);
+  if (child == 0) {
     const rlimit limit{1000, 1000};
     if (setrlimit(RLIMIT_FSIZE, &limit) != 0) _exit(1);
     const std::string more(2000, 'n');
@@ -152,24 +255,27 @@ TEST_F(LineWriterTest, PutsFilesBackWhenTheSystemStopsAWrite) {
                      RewriteInPlace(PathOf("rewrite").c_str(), more) ||
                      CreateFile(PathOf("create").c_str(), more) ||
                      ReplaceThroughNewFile(PathOf("replace").c_str(), PathOf("new").c_str(), more);
+    sigset_t signals;
+    sigpending(&signals);
+    if (sigismember(&signals, SIGXFSZ) == 1) _exit(3);
+    sigprocmask(SIG_BLOCK, nullptr, &signals);
+    if (sigismember(&signals, SIGXFSZ) == 1) _exit(4);
     _exit(any ? 2 : 0);
   }
   int status = 0;
   ASSERT_EQ(waitpid(child, &status, 0), child);
   EXPECT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) == 0) << status;
-  EXPECT_EQ(Content(), (Files{{"append", old}, {"rewrite", old}, {"replace", old}}));
+  EXPECT_EQ(folder_.Content(), (Files{{"append", old}, {"rewrite", old}, {"replace", old}}));
 }
 
 // The superuser may write anywhere, so the writing is done by a process of a user who may not.
-TEST_F(LineWriterTest, AFolderAndFilesThatMayOnlyBeReadStayAsTheyAre) {
+TEST_F(LineWriterTest, WhatMayOnlyBeReadStaysAsItIs) {
   const Files before{{"append", "old\r\n"}, {"rewrite", "old\r\n"}, {"replace", "old\r\n"}};
-  Fill(before);
-  const auto may_read = std::filesystem::perms::owner_read | std::filesystem::perms::group_read |
-                        std::filesystem::perms::others_read;
-  const auto may_enter = std::filesystem::perms::owner_exec | std::filesystem::perms::group_exec |
-                         std::filesystem::perms::others_exec;
-  for (const auto& [name, bytes] : before) permissions(folder_.Path() / name, may_read);
-  permissions(folder_.Path(), may_read | may_enter);
+  folder_.Lay(before);
+  for (const auto& [name, bytes] : before) ASSERT_EQ(chmod(PathOf(name).c_str(), 0444), 0);
+  folder_.Write("writable", "old and long\r\n");
+  ASSERT_EQ(chmod(PathOf("writable").c_str(), 0666), 0);
+  ASSERT_EQ(chmod(folder_.Path().c_str(), 0555), 0);
 
   const pid_t child = fork();
   ASSERT_NE(child, -1);
@@ -181,13 +287,17 @@ TEST_F(LineWriterTest, AFolderAndFilesThatMayOnlyBeReadStayAsTheyAre) {
                      RewriteInPlace(PathOf("rewrite").c_str(), "new") ||
                      CreateFile(PathOf("create").c_str(), "new") ||
                      ReplaceThroughNewFile(PathOf("replace").c_str(), PathOf("new").c_str(), "new");
+    // There can be no second file.
+    if (!RewriteInPlace(PathOf("writable").c_str(), "new")) _exit(4);
     _exit(any ? 2 : LineReader(PathOf("append").c_str(), 99).IsOpen() ? 0 : 3);
   }
   int status = 0;
   ASSERT_EQ(waitpid(child, &status, 0), child);
   EXPECT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) == 0) << status;
-  permissions(folder_.Path(), std::filesystem::perms::owner_all);
-  EXPECT_EQ(Content(), before);
+  ASSERT_EQ(chmod(folder_.Path().c_str(), 0777), 0);
+  EXPECT_EQ(folder_.Read("writable"), "new");
+  std::filesystem::remove(folder_.Path() / "writable");
+  EXPECT_EQ(folder_.Content(), before);
 }
 
 }  // namespace

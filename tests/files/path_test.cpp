@@ -6,7 +6,8 @@
 
 #include "platform/strings/code_page_932.h"
 #include "platform/system/file_system.h"
-#include "tests/operations/test_folder.h"
+#include "tests/support/faulty_file_system.h"
+#include "tests/support/test_folder.h"
 
 namespace orreryui {
 namespace {
@@ -73,6 +74,22 @@ TEST_F(PathTest, PrefersTheSpellingGivenThenTheFirstInByteOrder) {
   EXPECT_EQ(Find("lISt.dat"), "LIST.DAT");
 }
 
+TEST_F(PathTest, ListsAFolderOnceInTheLifeOfAChange) {
+  folder_.Write("List.Dat", "");
+  FaultyFileSystem files;
+  const ScopedFileSystem scope(files);
+  {
+    const ListedOnce once;
+    for (const char* name : {"LIST.DAT", "list.dat"}) EXPECT_EQ(Find(name), "List.Dat");
+    for (int i = 0; i < 9; ++i) EXPECT_EQ(Find("X" + std::to_string(i)), "X" + std::to_string(i));
+    std::filesystem::rename(folder_.Path() / "List.Dat", folder_.Path() / "New.Dat");
+    EXPECT_EQ(Find("LIST.DAT"), "LIST.DAT") << "it has gone";
+    EXPECT_EQ(Find("New.Dat"), "New.Dat");
+    EXPECT_EQ(files.listings(), 1);
+  }
+  EXPECT_EQ(Find("NEW.DAT"), "New.Dat");
+}
+
 TEST_F(PathTest, FindsNamesThatAreRawBytes) {
   const std::string name = CodePage("地図.DAT");
   folder_.Write(name, "");
@@ -109,6 +126,17 @@ TEST_F(PathTest, TheWayBackLeadsToTheSameFile) {
   EXPECT_FALSE(PathFromNative("/tmp/😀.txt"));
   EXPECT_FALSE(PathFromNative("/tmp/a\\b.txt"));
   EXPECT_FALSE(PathFromNative("/tmp/\xFF.txt"));
+}
+
+TEST(LeadsOutTest, SeesEveryWayOutOfAFolder) {
+  for (const char* path :
+       {"..", "../x", "..\\x", "a/b\\../../x", "a\\..", "/x", "\\x", "C:x", "z:/x"}) {
+    EXPECT_TRUE(LeadsOut(path)) << path;
+  }
+  // The second byte of a character separates nothing.
+  for (const char* path : {"", ".", "x", "a/b.plt", "...", "..x/x..", "\x95\\..", "12:x"}) {
+    EXPECT_FALSE(LeadsOut(path)) << path;
+  }
 }
 
 }  // namespace

@@ -10,7 +10,7 @@
 #include <string>
 
 #include "platform/dialogs/front_end_loader.h"
-#include "tests/operations/test_folder.h"
+#include "tests/support/test_folder.h"
 
 namespace orreryui {
 namespace {

@@ -7,9 +7,8 @@
 #include "platform/dialogs/front_end_loader.h"
 #include "platform/strings/code_page_932.h"
 #include "platform/strings/japanese_literal.h"
-#include "platform/system/file_system.h"
-#include "tests/files/faulty_file_system.h"
-#include "tests/operations/test_folder.h"
+#include "tests/support/each_fault.h"
+#include "tests/support/test_folder.h"
 
 namespace orreryui {
 namespace {
@@ -176,32 +175,29 @@ TEST_F(AlbumRegistTest, AFolderThatIsMissingRefusesTheAddition) {
   EXPECT_EQ(CallWith(script, folder.Argument() + "none\\a.alb"), "7|135.0|35.0|p|");
 }
 
-// The third addition fails at each of the calls that it makes to the disk, and succeeds when it is
-// tried again.
 TEST_F(AlbumRegistTest, AnAdditionThatCannotBeWrittenCanBeTriedAgain) {
-  constexpr char kTwoLines[] = "m 35.0 135.0 n t\r\nm 35.0 135.0 n t\r\n";
-  int failing_call = 0;
-  for (bool failed = true; failed;) {
-    FaultyFileSystem files(++failing_call);
-    std::optional<ScopedFileSystem> broken;
+  const std::string line = "m 35.0 135.0 n t\r\n";
+  int refusals = 0;
+  ForEachFault([&](FaultyFileSystem& files) {
     ScriptFrontEnd visit;
     visit.OpensDialog(148).Type(101, "p");
     for (int i = 0; i < 2; ++i) Fill(visit, "m", "n", "t", "").Click(117);
     Fill(visit, "m", "n", "t", "").Does([&](DialogSession& dialog) -> std::string {
-      broken.emplace(files);
-      dialog.Click(117);
-      broken.reset();
-      failed = files.calls() >= failing_call;
-      if (!failed) return "";
-      EXPECT_EQ(folder.Read(kAlbum), kTwoLines) << failing_call;
+      {
+        const ScopedFileSystem scope(files);
+        dialog.Click(117);
+      }
+      if (folder.Read(kAlbum) == line + line + line) return "";
+      EXPECT_EQ(folder.Read(kAlbum), line + line);
+      ++refusals;
       dialog.Click(117);
       return "";
     });
     ShowsEmptyBoxes(visit).Shows(1045, "4").Click(1);
     CallWith(visit, folder.Argument() + kAlbum);
-    EXPECT_EQ(folder.Read(kAlbum), std::string(kTwoLines) + "m 35.0 135.0 n t\r\n");
-  }
-  EXPECT_GT(failing_call, 3);
+    EXPECT_EQ(folder.Read(kAlbum), line + line + line);
+  });
+  EXPECT_GT(refusals, 4);
 }
 
 TEST_F(AlbumRegistTest, AnAlbumThatVanishedMeanwhileIsNotStartedAnew) {

@@ -6,8 +6,8 @@
 #include "platform/dialogs/front_end_loader.h"
 #include "platform/strings/code_page_932.h"
 #include "platform/strings/japanese_literal.h"
-#include "tests/files/faulty_file_system.h"
-#include "tests/operations/test_folder.h"
+#include "tests/support/faulty_file_system.h"
+#include "tests/support/test_folder.h"
 
 namespace orreryui {
 namespace {
@@ -231,7 +231,7 @@ TEST_F(AlbumUpdateTest, WithoutAWindowNothingIsTouched) {
   folder.Write(kAlbum, Lines(1, 2));
   const CString album = folder.Argument() + kAlbum;
   EXPECT_EQ(OnAlbumUpdate(7, "new", album, "", "", "", "", ""), "");
-  EXPECT_EQ(OnAlbumUpdate(-1, "new", album, "", "", "", "", ""), "-1|3|");
+  EXPECT_EQ(OnAlbumUpdate(-1, "new", album, "", "", "", "", ""), "");
   EXPECT_EQ(folder.Read(kAlbum), Lines(1, 2));
 }
 

@@ -5,8 +5,8 @@
 #include "platform/dialogs/front_end_loader.h"
 #include "platform/strings/code_page_932.h"
 #include "platform/strings/japanese_literal.h"
-#include "tests/files/faulty_file_system.h"
-#include "tests/operations/test_folder.h"
+#include "tests/support/each_fault.h"
+#include "tests/support/test_folder.h"
 
 namespace orreryui {
 namespace {
@@ -80,10 +80,28 @@ TEST_F(DataSourceTest, ARegistrationChoosesTheNewNameAndStaysAfterCancel) {
   EXPECT_EQ(folder.Read(kList), std::string("name1\r\n鎌倉|%n \r\nー表\r\n"_sj));
 }
 
-TEST_F(DataSourceTest, OkReturnsTheNameThatWasRegistered) {
-  script.Type(101, "新しい").Click(103).Click(1);
-  EXPECT_EQ(Call(0, "off"), "1|off|新しい");
-  EXPECT_EQ(folder.Read(kList), std::string("新しい\r\n"_sj));
+TEST_F(DataSourceTest, OkReturnsTheNameThatAReaderWillFind) {
+  const std::string longest(98, 'x');
+  const struct {
+    std::string typed, name;  // without a name it is refused
+  } cases[] = {
+      {"新しい", "新しい"}, {"kamakura\r\n", "kamakura"},
+      {"a\r\n\r\nb", "a"},  {"\r\n", ""},
+      {"\r\nb", ""},        {";note", ""},
+      {" ;", " ;"},         {longest, longest},
+      {longest + "y", ""},  {longest + "\r\ny", longest},
+  };
+  for (const auto& [typed, name] : cases) {
+    std::filesystem::remove(folder.Path() / kList);
+    ScriptFrontEnd visit;
+    visit.OpensDialog(134).Type(101, typed).Click(103);
+    visit.Shows(101, name.empty() ? typed : "登録されました！").Click(1);
+    ScopedFrontEnd scope(&visit);
+    const CString result = OnDataSourceSet(0, "off", folder.Argument());
+    EXPECT_EQ(visit.Failures(), "") << typed;
+    EXPECT_EQ(ToUtf8(result), name.empty() ? "0|off|HD(共通領域)" : "1|off|" + name);
+    EXPECT_EQ(folder.Read(kList).value_or(""), name.empty() ? "" : FromUtf8(name).bytes + "\r\n");
+  }
 }
 
 TEST_F(DataSourceTest, ADeletionRewritesTheListAndChoosesTheCommonArea) {
@@ -93,6 +111,50 @@ TEST_F(DataSourceTest, ADeletionRewritesTheListAndChoosesTheCommonArea) {
   script.Shows(135, kCommonArea).Pick(135, 3).Click(109).Click(109).Click(1);
   EXPECT_EQ(Call(2, "on"), "0|on|HD(共通領域)");
   EXPECT_EQ(folder.Read(kList), Lines(2, 3));
+}
+
+TEST_F(DataSourceTest, ADeletionTakesOneNameOffWhatTheFileHoldsByThen) {
+  const struct {
+    const char *opened, *meanwhile;
+    int row;
+    const char* after;
+  } cases[] = {
+      {"a\nb\n", "a\nb\nother\n", 1, "b\r\nother\r\n"},
+      {"a\nb\na\n", "other\na\na\nb\n", 3, "other\r\na\r\nb\r\n"},
+      {"a\nb\na\n", "a\nb\n", 3, "a\nb\n"},
+      {"a\nb\n", "a\n", 2, "a\n"},
+      {"a\nb\n", "", 1, ""},
+  };
+  for (const auto& [opened, meanwhile, row, after] : cases) {
+    folder.Write(kList, opened);
+    ScriptFrontEnd visit;
+    visit.OpensDialog(134).Does([&](DialogSession&) {
+      folder.Write(kList, meanwhile);
+      return "";
+    });
+    visit.Pick(135, row).Click(109).Escape();
+    ScopedFrontEnd scope(&visit);
+    OnDataSourceSet(0, "off", folder.Argument());
+    EXPECT_EQ(visit.Failures(), "");
+    EXPECT_EQ(folder.Read(kList), after) << meanwhile;
+  }
+}
+
+TEST_F(DataSourceTest, AListThatCouldNotBeReadTakesNoNameAndLosesNone) {
+  ForEachFault([&](FaultyFileSystem& files) {
+    folder.Write(kList, Lines(1, 3));
+    std::optional<ScopedFileSystem> broken(files);
+    ScriptFrontEnd visit;
+    visit.OpensDialog(134).Does([&](DialogSession&) {
+      broken.reset();
+      return "";
+    });
+    visit.Type(101, "x").Click(103).Click(109).Escape();
+    ScopedFrontEnd scope(&visit);
+    OnDataSourceSet(0, "off", folder.Argument());
+    EXPECT_EQ(visit.Failures(), "");
+    EXPECT_EQ(folder.Read(kList), Lines(1, 3));
+  });
 }
 
 TEST_F(DataSourceTest, LinesAreCutAtNinetyEightBytes) {
@@ -139,35 +201,33 @@ std::string TextOf(const DialogSession& session, int id) {
   return "no such control";
 }
 
-// Clicks once while the n-th call of the file system fails, for each n until none is left to fail.
-// The file then holds what it held, with the dialog as it was, or what the click makes of it.
+// Clicks while calls of the file system fail. The list then holds what the click makes of it, or
+// what it held; the dialog then is as it was, too, and a second click does it.
 void ClickOnAFailingDisk(int id, const std::string& after) {
-  const std::string before = Lines(1, 2);
-  int failing_call = 0;
-  for (bool failed = true; failed;) {
-    ++failing_call;
-    TestFolder folder;
-    folder.Write(kList, before);
+  const TestFolder folder;
+  int refusals = 0;
+  ForEachFault([&](FaultyFileSystem& files) {
+    folder.Lay({{kList, Lines(1, 2)}});
     ScriptFrontEnd script;
-    script.OpensDialog(134).Type(101, "name3").Does([&](DialogSession& session) {
-      FaultyFileSystem files(failing_call);
-      const ScopedFileSystem scope(files);
-      session.Click(id);
-      failed = files.calls() >= failing_call;
-      return "";
-    });
-    script.Does([&](DialogSession& session) {
+    script.OpensDialog(134).Type(101, "name3").Does([&](DialogSession& session) -> std::string {
+      {
+        const ScopedFileSystem scope(files);
+        session.Click(id);
+      }
       if (folder.Read(kList) == after) return "";
-      if (folder.Read(kList) != before) return "the file is neither as it was nor as it should be";
-      const bool as_it_was = TextOf(session, 101) == "name3" && TextOf(session, 135) == "name1";
-      return as_it_was ? "" : "the dialog shows what didn't happen";
+      ++refusals;
+      EXPECT_EQ(folder.Read(kList), Lines(1, 2));
+      EXPECT_EQ(TextOf(session, 101) + TextOf(session, 135), "name3name1");
+      session.Click(id);
+      return "";
     });
     script.Escape();
     ScopedFrontEnd scope(&script);
     OnDataSourceSet(1, "off", folder.Argument());
-    EXPECT_EQ(script.Failures(), "") << "call " << failing_call;
-  }
-  EXPECT_GT(failing_call, 4) << "no call was failed";
+    EXPECT_EQ(script.Failures(), "");
+    EXPECT_EQ(folder.Content(), (Files{{kList, after}}));
+  });
+  EXPECT_GT(refusals, 4);
 }
 
 TEST_F(DataSourceTest, AWriteThatFailsIsARefusedClick) {

@@ -7,7 +7,7 @@
 #include "platform/strings/japanese_literal.h"
 #include "templates/legend.h"
 #include "tests/operations/swatches.h"
-#include "tests/operations/test_folder.h"
+#include "tests/support/test_folder.h"
 
 namespace orreryui {
 namespace {

@@ -7,7 +7,7 @@
 #include "platform/dialogs/front_end_loader.h"
 #include "platform/strings/code_page_932.h"
 #include "platform/strings/japanese_literal.h"
-#include "tests/operations/test_folder.h"
+#include "tests/support/test_folder.h"
 
 namespace orreryui {
 namespace {
@@ -91,6 +91,18 @@ TEST_F(MapTypeTest, ShowsTheSettingsAndReturnsThemUnchanged) {
   script.Enter();
   const std::string region = std::string("東|京"_sj);
   EXPECT_EQ(Call({3, 21, 10001, 50102, 1, region}), "-1|3|1|1|2|0|1|1|5|2|東|京");
+}
+
+TEST_F(MapTypeTest, EveryLineOfTheListUpToAnEmptyOneIsAPalette) {
+  std::string list;
+  std::vector<std::string> names;
+  for (int i = 0; i < 30; ++i) {
+    names.push_back("name" + std::to_string(i));
+    list += names.back() + "$file\n";
+  }
+  folder.Write("PLTTFILE.DAT", list + "\nunseen$file\n");
+  script.ShowsRows(kPalette, names).ShowsSelection(kPalette, 25).Pick(kPalette, 29).Click(1);
+  EXPECT_EQ(Call({.palette = 25}), "1|29|1|1|2|0|0|1|5|0|");
 }
 
 TEST_F(MapTypeTest, WithoutAPaletteListOrAWindowNothingIsLost) {

@@ -13,7 +13,7 @@
 #include "platform/dialogs/front_end_loader.h"
 #include "platform/strings/code_page_932.h"
 #include "tests/operations/swatches.h"
-#include "tests/operations/test_folder.h"
+#include "tests/support/test_folder.h"
 
 namespace orreryui {
 

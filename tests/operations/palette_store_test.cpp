@@ -4,9 +4,10 @@
 
 #include <functional>
 
+#include "appearance/palette_list.h"
 #include "platform/strings/japanese_literal.h"
-#include "tests/files/faulty_file_system.h"
 #include "tests/operations/palette_fixture.h"
+#include "tests/support/each_fault.h"
 
 namespace orreryui {
 namespace {
@@ -71,6 +72,34 @@ TEST_F(PaletteTest, ARegisteredPaletteCanBeLoadedAndDeleted) {
   EXPECT_EQ(Call(2), "2|0|0|255|1|2|3|4|5|6|");
   EXPECT_EQ(folder.Read(kList), List(2));
   EXPECT_EQ(folder.Read("Orbis3.plt"), std::nullopt);
+}
+
+TEST_F(PaletteTest, WhatOthersMadeOfTheListMeanwhileCounts) {
+  script.Does([this](DialogSession&) -> std::string {
+    folder.Write(kList, List(2) + "other$Orbis3.plt\r\n");
+    folder.Write("Orbis3.plt", "other");
+    return "";
+  });
+  script.Type(kNames, "other").Click(kEdit).ShowsMessage(kAskRegister, kOk);
+  script.ShowsMessage(kNameTaken, kOk);
+  script.Type(kNames, "x").Click(kEdit).ShowsMessage(kAskRegister, kOk);
+  script.ShowsRows(kNames, {"自然", "冬", "other", "x"}).Pick(kNames, 1);
+  // The file of the chosen palette is another one's by now.
+  const std::string list = FromUtf8("自然$Orbis2.plt\r\n").bytes;
+  script.Does([&](DialogSession&) -> std::string {
+    folder.Write(kList, list);
+    return "";
+  });
+  script.Click(Swatch(2)).ChoosesColour(0, 9u).Click(kEdit).ShowsMessage(kAskUpdate, kOk);
+  script.Click(kDelete)
+      .ShowsMessage(kAskDelete, kOk)
+      .ShowsRows(kNames, {"自然", "冬", "other", "x"});
+  script.Click(1).ShowsMessage("配色を更新しますか！", kCancel);
+  EXPECT_EQ(Call(2), "1|20|20|20|1|2|3|4|5|6|");
+  EXPECT_EQ(folder.Read(kList), list);
+  EXPECT_EQ(folder.Read("Orbis2.plt"), Text(kWinter));
+  EXPECT_EQ(folder.Read("Orbis3.plt"), "other");
+  EXPECT_NE(folder.Read("Orbis4.plt"), std::nullopt);
 }
 
 TEST_F(PaletteTest, OkRegistersWhatIsPending) {
@@ -167,6 +196,25 @@ TEST_F(PaletteTest, OkStaysUntilTheDiskTakesWhatIsPending) {
   }
 }
 
+TEST_F(PaletteTest, AFileOutsideTheFolderIsNeitherUpdatedNorRemoved) {
+  const CString inner = folder.Argument() + "inner/";
+  std::filesystem::create_directories(folder.Path() / "inner/sub");
+  folder.Write("victim.txt", Text(kWinter));
+  for (const char* file : {"../victim.txt", "sub\\..\\..\\VICTIM.TXT"}) {
+    folder.Write("inner/PLTTFILE.DAT", std::string("X$") + file + "\r\nY$\r\n");
+    ScriptFrontEnd visit;
+    visit.OpensDialog(177).Click(Swatch(2)).ChoosesColour(0, 9u).Click(kEdit);
+    visit.ShowsMessage(kAskUpdate, kOk).Shows(kEdit, "更新");
+    visit.Click(kDelete).ShowsMessage(kAskDelete, kOk).ShowsRows(kNames, {"Y", kNew});
+    visit.Pick(kNames, 0).Click(kDelete).ShowsMessage(kAskDelete, kOk).Escape();
+    ScopedFrontEnd scope(&visit);
+    OnMapPalleteSet(0, "", inner, 0, 0, 0);
+    EXPECT_EQ(visit.Failures(), "") << file;
+    EXPECT_EQ(folder.Read("victim.txt"), Text(kWinter)) << file;
+    EXPECT_EQ(folder.Read("inner/PLTTFILE.DAT"), "") << file;
+  }
+}
+
 TEST_F(PaletteTest, ADeletionRenumbersAndStaysAfterCancel) {
   script.Click(kDelete).ShowsMessage(kAskDelete, kCancel).ShowsSelection(kNames, 0);
   script.Click(kDelete).ShowsMessage(kAskDelete, kOk).ShowsRows(kNames, {"冬", kNew});
@@ -214,7 +262,7 @@ TEST_F(PaletteTest, ADeletionMakesRoomForTheNewEntry) {
 
 // All that a click may change: the files, and the list as the user sees it.
 struct Scene {
-  std::map<std::string, std::string> files;
+  Files files;
   std::vector<std::vector<std::string>> rows;
   std::string name;
   int row = -1;
@@ -224,12 +272,15 @@ struct Scene {
 
 class FailingDiskTest : public PaletteTest {
  protected:
+  using Play = std::function<void(ScriptFrontEnd&)>;
+
+  const Files before = folder.Content();
+
   Scene Look(const DialogSession& session) const {
     Scene scene;
-    for (const auto& entry : std::filesystem::directory_iterator(folder.Path())) {
-      const std::string name = entry.path().filename().string();
-      scene.files[name] = folder.Read(name).value_or("");
-    }
+    scene.files = folder.Content();
+    // What is left of a second file goes with the next write.
+    std::erase_if(scene.files, [](const auto& file) { return file.first.front() == '.'; });
     for (int i = 0; i < session.ControlCount(); ++i) {
       const ControlView view = session.Control(i);
       if (view.id != kNames) continue;
@@ -240,62 +291,55 @@ class FailingDiskTest : public PaletteTest {
     return scene;
   }
 
-  // The folder as each test finds it.
-  void Lay() const {
-    for (const auto& entry : std::filesystem::directory_iterator(folder.Path())) {
-      std::filesystem::remove(entry.path());
-    }
-    folder.Write(kList, List(2));
-    folder.Write("Orbis1.plt", Text(kNatural));
-    folder.Write("Orbis2.plt", Text(kWinter));
+  // Plays `prepare`, then clicks on a disk with faults. What was before the click, and what is once
+  // the list has been opened again.
+  std::pair<Scene, Scene> Click(FaultyFileSystem& files, int selected, const Play& prepare, int id,
+                                const char* question) {
+    folder.Lay(before);
+    std::pair<Scene, Scene> scenes;
+    std::optional<ScopedFileSystem> disk;
+    ScriptFrontEnd visit;
+    prepare(visit.OpensDialog(177));
+    visit.Does([&](DialogSession& session) {
+      scenes.first = Look(session);
+      disk.emplace(files);
+      return "";
+    });
+    visit.Click(id).ShowsMessage(question, kOk).Does([&](DialogSession& session) {
+      disk.reset();
+      ReadPaletteList(folder.Argument());
+      scenes.second = Look(session);
+      return "";
+    });
+    visit.Escape();
+    ScopedFrontEnd scope(&visit);
+    OnMapPalleteSet(selected, "", folder.Argument(), 0, 0, 0);
+    EXPECT_EQ(visit.Failures(), "");
+    return scenes;
   }
 
-  // Plays `before`, then clicks while the n-th call of the file system fails, for each n until none
-  // is left to fail. Each time the click has no effect at all, or the whole of it.
-  void ClickOnAFailingDisk(int selected, const std::function<void(ScriptFrontEnd&)>& before, int id,
-                           const char* question) {
-    Scene whole;  // of the first run, in which no call fails
+  // Each time the click has no effect at all, or the whole of it.
+  void ClickOnAFailingDisk(int selected, const Play& prepare, int id, const char* question) {
+    FaultyFileSystem sound;
+    const Scene whole = Click(sound, selected, prepare, id, question).second;
     int refusals = 0;
-    bool failed = true;
-    for (int failing = 0; failing == 0 || failed; ++failing) {
-      Lay();
-      FaultyFileSystem files(failing);
-      std::optional<ScopedFileSystem> disk;
-      Scene old;
-      ScriptFrontEnd visit;
-      before(visit.OpensDialog(177));
-      visit.Does([&](DialogSession& session) {
-        old = Look(session);
-        disk.emplace(files);
-        return "";
-      });
-      visit.Click(id).ShowsMessage(question, kOk).Does([&](DialogSession& session) {
-        disk.reset();
-        const Scene scene = Look(session);
-        if (failing == 0) {
-          whole = scene;
-          return scene == old ? "the click had no effect" : "";
-        }
-        if (scene == old) ++refusals;
-        return scene == old || scene == whole ? "" : "the click had half an effect";
-      });
-      visit.Escape();
-      ScopedFrontEnd scope(&visit);
-      OnMapPalleteSet(selected, "", folder.Argument(), 0, 0, 0);
-      EXPECT_EQ(visit.Failures(), "") << "call " << failing << " under " << question;
-      failed = files.calls() >= failing;
-    }
+    ForEachFault([&](FaultyFileSystem& files) {
+      const auto [old, scene] = Click(files, selected, prepare, id, question);
+      EXPECT_NE(old, whole);
+      EXPECT_TRUE(scene == old || scene == whole) << question;
+      refusals += scene == old ? 1 : 0;
+    });
     EXPECT_GT(refusals, 4) << question;
   }
 };
 
 TEST_F(FailingDiskTest, WhatTheDiskRefusesHasNoEffect) {
+  const auto nothing = [](ScriptFrontEnd&) {};
   ClickOnAFailingDisk(
       2, [](ScriptFrontEnd& visit) { visit.Type(kNames, "x"); }, kEdit, kAskRegister);
   ClickOnAFailingDisk(
       0, [this](ScriptFrontEnd& visit) { visit.Click(Swatch(2)).ChoosesColour(0x040302, 9u); },
       kEdit, kAskUpdate);
-  const auto nothing = [](ScriptFrontEnd&) {};
   ClickOnAFailingDisk(0, nothing, kDelete, kAskDelete);
   ClickOnAFailingDisk(1, nothing, kDelete, kAskDelete);
 }

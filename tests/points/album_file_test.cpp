@@ -5,7 +5,7 @@
 #include <gtest/gtest.h>
 
 #include "platform/strings/japanese_literal.h"
-#include "tests/operations/test_folder.h"
+#include "tests/support/test_folder.h"
 
 namespace orreryui {
 namespace {
@@ -67,6 +67,19 @@ TEST_F(AlbumFileTest, OnlyTheFirstLineMakesAFile) {
   EXPECT_FALSE(AppendAlbumLine(folder.Argument() + "none\\a.alb", true, data));
   EXPECT_FALSE(AppendAlbumLine("", true, data));
   EXPECT_FALSE(CreateEmptyAlbum(folder.Argument()));
+}
+
+TEST_F(AlbumFileTest, ALineThatNoReaderFindsWholeIsNotWritten) {
+  for (const bool first : {true, false}) {
+    folder.Write(kAlbum, "old");
+    const CString rest(std::string(199 - 9, 'x').c_str());  // behind "p 1 2 i "
+    EXPECT_FALSE(AppendAlbumLine(Path(), first, {";p", "1", "2", "i", "t.txt", ""}));
+    EXPECT_FALSE(AppendAlbumLine(Path(), first, {"p", "1", "2", "i", rest + "xy", ""}));
+    EXPECT_FALSE(AppendAlbumLine(Path(), first, {"p", "1", "2", "i", "b", rest + "x"}));
+    EXPECT_EQ(folder.Read(kAlbum), "old");
+    EXPECT_TRUE(AppendAlbumLine(Path(), first, {"p", "1", "2", "i", rest + "x", ""}));
+    EXPECT_EQ(ReadAlbumLines(Path()).back(), "p 1 2 i " + rest + "x");
+  }
 }
 
 TEST_F(AlbumFileTest, AnEmptyAlbumHoldsNothingOfTheOldOne) {

@@ -11,8 +11,8 @@
 #include "platform/dialogs/front_end_loader.h"
 #include "platform/strings/code_page_932.h"
 #include "platform/strings/japanese_literal.h"
-#include "tests/operations/test_folder.h"
 #include "tests/qt/plugin.h"
+#include "tests/support/test_folder.h"
 
 namespace orreryui {
 namespace {

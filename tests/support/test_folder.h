@@ -1,6 +1,6 @@
 // A folder of its own for a test, with the bytes of its files.
-#ifndef ORRERYUI_TESTS_OPERATIONS_TEST_FOLDER_H_
-#define ORRERYUI_TESTS_OPERATIONS_TEST_FOLDER_H_
+#ifndef ORRERYUI_TESTS_SUPPORT_TEST_FOLDER_H_
+#define ORRERYUI_TESTS_SUPPORT_TEST_FOLDER_H_
 
 #include <orreryui/cstring.h>
 #include <stdlib.h>
@@ -8,10 +8,13 @@
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <map>
 #include <optional>
 #include <string>
 
 namespace orreryui {
+
+using Files = std::map<std::string, std::string>;  // names and bytes
 
 class TestFolder {
  public:
@@ -40,10 +43,24 @@ class TestFolder {
     return std::string(std::istreambuf_iterator<char>(file), {});
   }
 
+  // Replaces all that is in the folder.
+  void Lay(const Files& files) const {
+    for (const auto& entry : std::filesystem::directory_iterator(path_)) remove_all(entry.path());
+    for (const auto& [name, bytes] : files) Write(name, bytes);
+  }
+  Files Content() const {
+    Files files;
+    for (const auto& entry : std::filesystem::directory_iterator(path_)) {
+      const std::string name = entry.path().filename().string();
+      files[name] = Read(name).value_or("");
+    }
+    return files;
+  }
+
  private:
   std::filesystem::path path_;
 };
 
 }  // namespace orreryui
 
-#endif  // ORRERYUI_TESTS_OPERATIONS_TEST_FOLDER_H_
+#endif  // ORRERYUI_TESTS_SUPPORT_TEST_FOLDER_H_

@@ -1,0 +1,66 @@
+// Plays a change to files with a fault at each call of the file system in turn.
+#ifndef ORRERYUI_TESTS_SUPPORT_EACH_FAULT_H_
+#define ORRERYUI_TESTS_SUPPORT_EACH_FAULT_H_
+
+#include <gtest/gtest.h>
+#include <signal.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <functional>
+
+#include "tests/support/faulty_file_system.h"
+
+namespace orreryui {
+
+// Calls `play` with a file system in which the n-th call fails, for each n until none is left to
+// fail: first with that call alone, then with all calls from it on. `play` puts the file system in
+// its place when the change begins, and checks what came of it.
+inline void ForEachFault(const std::function<void(FaultyFileSystem&)>& play) {
+  for (const Fault fault : {Fault::kOnce, Fault::kLasting}) {
+    int call = 0;
+    for (bool failed = true; failed;) {
+      FaultyFileSystem files(++call, fault);
+      const testing::ScopedTrace trace(
+          __FILE__, __LINE__,
+          (fault == Fault::kOnce ? "call " : "from call ") + std::to_string(call));
+      play(files);
+      failed = files.Failed();
+    }
+    EXPECT_GT(call, 3) << "no call was failed";
+  }
+}
+
+// Whether a process of its own ends by SIGKILL instead of the n-th call that `change` changes files
+// by.
+inline bool EndsAtCall(int call, const std::function<void()>& change) {
+  const pid_t child = fork();
+  if (child == 0) {
+    FaultyFileSystem files(call, Fault::kKill);
+    const ScopedFileSystem scope(files);
+    change();
+    _exit(0);
+  }
+  int status = 0;
+  EXPECT_EQ(waitpid(child, &status, 0), child);
+  return WIFSIGNALED(status) && WTERMSIG(status) == SIGKILL;
+}
+
+// Kills a process that makes the change at each of these calls in turn, and once not at all. `lay`
+// lays out the files before, `check` looks at them afterwards.
+inline void ForEachKill(const std::function<void()>& lay, const std::function<void()>& change,
+                        const std::function<void()>& check) {
+  int call = 0;
+  for (bool killed = true; killed;) {
+    const testing::ScopedTrace trace(__FILE__, __LINE__,
+                                     "killed at call " + std::to_string(++call));
+    lay();
+    killed = EndsAtCall(call, change);
+    check();
+  }
+  EXPECT_GT(call, 1) << "no call ended the process";
+}
+
+}  // namespace orreryui
+
+#endif  // ORRERYUI_TESTS_SUPPORT_EACH_FAULT_H_
