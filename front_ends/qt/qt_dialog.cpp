@@ -1,8 +1,8 @@
 #include "front_ends/qt/qt_dialog.h"
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QCursor>
-#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QScreen>
 #include <QStyle>
@@ -28,6 +28,12 @@ QRect Inside(QRect window, const QRect& area) {
   return window;
 }
 
+QPoint OnSomeScreen(QPoint pixel) {
+  const QRect all = QGuiApplication::primaryScreen()->virtualGeometry();
+  return {std::clamp(pixel.x(), all.left(), all.right()),
+          std::clamp(pixel.y(), all.top(), all.bottom())};
+}
+
 }  // namespace
 
 QtDialog::QtDialog(DialogSession& session, QWidget* owner) : QDialog(owner), session_(session) {
@@ -49,6 +55,7 @@ void QtDialog::RunModally() {
   create();
   if (host != nullptr) windowHandle()->setTransientParent(host);
   windowHandle()->installEventFilter(this);
+  qApp->installEventFilter(this);
   Place();
   Quietly([this] {
     ShowFocus();
@@ -56,8 +63,7 @@ void QtDialog::RunModally() {
   });
   activateWindow();
   Paint();
-  if (!Ended()) loop_.exec(QEventLoop::DialogExec);
-  // The program quits: the dialog ends as if its window had been closed.
+  if (!Ended() && !abandoned_) loop_.exec(QEventLoop::DialogExec);
   if (!Ended()) session_.Escape();
 }
 
@@ -167,7 +173,7 @@ void QtDialog::Place() {
       window.moveCenter(QCursor::pos());
       break;
     case Placement::kAtPixel:
-      window.moveTopLeft({placed_.x, placed_.y});
+      window.moveTopLeft(OnSomeScreen({placed_.x, placed_.y}));
       if (const QScreen* const there = QGuiApplication::screenAt(window.topLeft())) {
         area = there->availableGeometry();
       }
@@ -215,22 +221,17 @@ void QtDialog::GestureDone() {
   }
 }
 
-void QtDialog::PressEnter() {
+void QtDialog::Run(void (DialogSession::*gesture)()) {
   if (Ended()) return;
-  session_.Enter();
-  GestureDone();
+  Guarded([&] {
+    (session_.*gesture)();
+    GestureDone();
+  });
 }
 
-void QtDialog::PressEscape() {
-  if (Ended()) return;
-  session_.Escape();
-  GestureDone();
-}
-
-void QtDialog::Paint() {
-  if (Ended()) return;
-  session_.Paint();
-  GestureDone();
+void QtDialog::Abandon() {
+  abandoned_ = true;
+  loop_.quit();
 }
 
 void QtDialog::keyPressEvent(QKeyEvent* event) {
@@ -249,11 +250,13 @@ void QtDialog::keyPressEvent(QKeyEvent* event) {
 }
 
 void QtDialog::closeEvent(QCloseEvent* event) {
-  PressEscape();
-  event->setAccepted(Ended());
+  if (!abandoned_) PressEscape();
+  event->setAccepted(Ended() || abandoned_);
 }
 
 bool QtDialog::eventFilter(QObject* watched, QEvent* event) {
+  // A dialog that another window covers would refuse to close, and thereby the quitting.
+  if (watched == qApp && event->type() == QEvent::Quit) Abandon();
   if (watched == windowHandle() && event->type() == QEvent::Expose) {
     if (!windowHandle()->isExposed()) {
       covered_ = true;

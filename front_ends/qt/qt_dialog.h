@@ -18,7 +18,8 @@ class QtDialog : public QDialog, public DialogWindow, private PaneFrame {
   QtDialog(DialogSession& session, QWidget* owner);
   ~QtDialog() override;
 
-  // Shows the dialog, whose session has been started, until it has ended or the program quits.
+  // Shows the dialog, whose session has been started, until it has ended. A program that quits ends
+  // it as if its window had been closed.
   void RunModally();
 
   void Refresh(const std::vector<int>& indices) override;
@@ -34,10 +35,14 @@ class QtDialog : public QDialog, public DialogWindow, private PaneFrame {
  private:
   bool Ended() const override { return session_.Ended(); }
   void GestureDone() override;
-  void PressEnter() override;
-  void PressEscape() override;
+  void PressEnter() override { Run(&DialogSession::Enter); }
+  void PressEscape() override { Run(&DialogSession::Escape); }
   void ContentsChanged() override;
   void FocusChanged() override;
+  void Abandon() override;
+
+  // Runs a gesture that no pane has.
+  void Run(void (DialogSession::*gesture)());
 
   void Build();
   void Arrange();
@@ -51,10 +56,11 @@ class QtDialog : public QDialog, public DialogWindow, private PaneFrame {
   const QWindow* HostWindow() const;  // that the outermost dialog stands before, or null
   QRect AvailableArea() const;
   QSize Room() const;  // for a dialog inside a frame in that area
-  void Paint();
+  void Paint() { Run(&DialogSession::Paint); }
 
   DialogSession& session_;
   QEventLoop loop_;
+  bool abandoned_ = false;
   ControlPane* pane_ = nullptr;
   QScrollArea* scroll_area_ = nullptr;  // only where the screen is too small
   DialogScale scale_;
