@@ -7,9 +7,9 @@
 #include <QScreen>
 #include <QStyle>
 #include <QTimer>
-#include <QWindow>
 #include <algorithm>
 
+#include "front_ends/qt/foreign_window.h"
 #include "front_ends/qt/widget_text.h"
 
 namespace orreryui {
@@ -51,9 +51,9 @@ QtDialog::~QtDialog() {
 
 void QtDialog::RunModally() {
   Quietly([this] { Build(); });
-  QWindow* const host = parentWidget() == nullptr ? QGuiApplication::focusWindow() : nullptr;
+  QWindow* const host = QGuiApplication::focusWindow();
   create();
-  if (host != nullptr) windowHandle()->setTransientParent(host);
+  if (parentWidget() == nullptr) StandBefore(host);
   windowHandle()->installEventFilter(this);
   qApp->installEventFilter(this);
   Place();
@@ -65,6 +65,14 @@ void QtDialog::RunModally() {
   Paint();
   if (!Ended() && !abandoned_) loop_.exec(QEventLoop::DialogExec);
   if (!Ended()) session_.Escape();
+}
+
+void QtDialog::StandBefore(QWindow* host) {
+  if (host == nullptr) {
+    foreign_host_ = ActiveForeignWindow(winId());
+    host = foreign_host_.get();
+  }
+  if (host != nullptr) windowHandle()->setTransientParent(host);
 }
 
 void QtDialog::Build() {
@@ -158,8 +166,10 @@ void QtDialog::Place() {
   // A dialog stays on the screen of the window that it stands before.
   const auto frame = [&area](const QWindow* before) {
     if (before == nullptr) return area;
-    area = before->screen()->availableGeometry();
-    return before->frameGeometry();
+    const QRect place = FrameOf(*before);
+    const QScreen* const there = QGuiApplication::screenAt(place.center());
+    area = (there != nullptr ? there : before->screen())->availableGeometry();
+    return place;
   };
   QRect window(QPoint(), size());
   switch (placed_.placement) {

@@ -5,6 +5,8 @@
 #include <QDialog>
 #include <QEventLoop>
 #include <QScrollArea>
+#include <QWindow>
+#include <memory>
 
 #include "front_ends/qt/control_pane.h"
 #include "front_ends/qt/pane_frame.h"
@@ -45,6 +47,7 @@ class QtDialog : public QDialog, public DialogWindow, private PaneFrame {
   void Run(void (DialogSession::*gesture)());
 
   void Build();
+  void StandBefore(QWindow* host);
   void Arrange();
   void LimitGrowth();
   void GrowToFit();
@@ -59,6 +62,7 @@ class QtDialog : public QDialog, public DialogWindow, private PaneFrame {
   void Paint() { Run(&DialogSession::Paint); }
 
   DialogSession& session_;
+  std::unique_ptr<QWindow> foreign_host_;  // the host's window where that isn't one of Qt's
   QEventLoop loop_;
   bool abandoned_ = false;
   ControlPane* pane_ = nullptr;
