@@ -13,9 +13,9 @@
 // kNoControlId can't be the object of a gesture. Everything runs on the thread that called
 // FrontEnd::RunDialog.
 //
-// No gesture throws: what goes wrong in one ends its session. The other functions of the library may
-// run out of memory. A front end lets nothing that is thrown go on into an event loop or out of its
-// own functions: it ends the dialog at hand, or answers as a user who gives up.
+// No gesture throws: what goes wrong in one ends its session. The other functions of the library
+// may run out of memory. A front end lets nothing that is thrown go on into an event loop or out of
+// its own functions: it ends the dialog at hand, or answers as a user who gives up.
 //
 // The life of a dialog:
 //

@@ -13,7 +13,7 @@ namespace {
 constexpr char kLocale[] = "LC_ALL";
 constexpr char kGlyphLanguage[] = "FC_LANG";
 
-// The last two are those that Qt takes out of the environment when it starts.
+// The last two are those that Qt may take out of the environment when it starts.
 constexpr const char* kVariables[] = {kLocale, kGlyphLanguage, "DESKTOP_STARTUP_ID",
                                       "XDG_ACTIVATION_TOKEN"};
 

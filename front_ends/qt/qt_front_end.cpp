@@ -58,16 +58,19 @@ void QtFrontEnd::Beep() {
 }
 
 void QtFrontEnd::WaitUntil(const std::function<bool()>& done) {
-  constexpr int kInterval = 25;  // milliseconds
-  constexpr int kAskAgain = INT_MIN;
-  const InputBlock block;
-  QEventLoop loop;
-  QTimer timer;
-  QObject::connect(&timer, &QTimer::timeout, &loop, [&loop] { loop.exit(kAskAgain); });
-  timer.start(kInterval);
-  // A program that quits ends the loop with a code of its own.
-  while (!done() && loop.exec() == kAskAgain) {
-  }
+  Guarded(false, [&] {
+    constexpr int kInterval = 25;  // milliseconds
+    constexpr int kAskAgain = INT_MIN;
+    const InputBlock block;
+    QEventLoop loop;
+    QTimer timer;
+    QObject::connect(&timer, &QTimer::timeout, &loop, [&loop] { loop.exit(kAskAgain); });
+    timer.start(kInterval);
+    bool is_done = done();
+    // A program that quits ends the loop with a code of its own.
+    while (!is_done && loop.exec() == kAskAgain) is_done = done();
+    return is_done;
+  });
 }
 
 }  // namespace orreryui
