@@ -1,25 +1,30 @@
 #include <orreryui/orreryui.h>
 
+#include "operations/run_operation.h"
 #include "presentation/memo_dialog.h"
 #include "presentation/text_view_dialog.h"
 
 namespace orreryui {
 
 void OnTextDisplayDaialog(CString file, CString title1, CString title2) {
-  CDlgTextView dialog;
-  dialog.m_strFile = file;
-  dialog.m_strTitle1 = title1;
-  dialog.m_strTitle2 = title2;
-  dialog.DoModal();
+  RunOperation([&] {
+    CDlgTextView dialog;
+    dialog.m_strFile = file;
+    dialog.m_strTitle1 = title1;
+    dialog.m_strTitle2 = title2;
+    dialog.DoModal();
+  });
 }
 
 void OnMemoDisplay(int mode, int left, CString file, CString text) {
-  CDlgMemo dialog;
-  dialog.m_nMemoMode = mode;
-  dialog.m_nLeft = left;
-  dialog.m_strFile = file;
-  dialog.m_strText = text;
-  dialog.DoModal();
+  RunOperation([&] {
+    CDlgMemo dialog;
+    dialog.m_nMemoMode = mode;
+    dialog.m_nLeft = left;
+    dialog.m_strFile = file;
+    dialog.m_strText = text;
+    dialog.DoModal();
+  });
 }
 
 }  // namespace orreryui

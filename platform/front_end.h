@@ -10,8 +10,12 @@
 //   DialogSession  implemented by the library: one running dialog, told what the user did
 //
 // All text is UTF-8. Controls are named by their number; controls that bear the number
-// kNoControlId can't be the object of a gesture. Nothing here throws, and everything runs on the
-// thread that called FrontEnd::RunDialog.
+// kNoControlId can't be the object of a gesture. Everything runs on the thread that called
+// FrontEnd::RunDialog.
+//
+// No gesture throws: what goes wrong in one ends its session. The other functions of the library
+// may run out of memory. A front end lets nothing that is thrown go on into an event loop or out of
+// its own functions: it ends the dialog at hand, or answers as a user who gives up.
 //
 // The life of a dialog:
 //
@@ -29,7 +33,8 @@
 //      and before an inner window opens or a wait begins, never from another thread.
 //   6. When Ended() is true after a gesture, the front end takes the window off the screen and
 //      returns true. No gesture may follow. Closing the window by any means of the desktop is the
-//      gesture Escape(): the window stays until Ended() is true.
+//      gesture Escape(): the window stays until Ended() is true. A program that quits waits for
+//      nobody: each window that is open gets its Escape() and goes.
 #ifndef ORRERYUI_PLATFORM_FRONT_END_H_
 #define ORRERYUI_PLATFORM_FRONT_END_H_
 
@@ -212,8 +217,7 @@ class FrontEnd {
  public:
   virtual ~FrontEnd() = default;
 
-  // Shows the dialog modally until it has ended. False: no window can be shown, and Start wasn't
-  // called.
+  // Shows the dialog modally until it has ended. False: it couldn't be shown, or not until its end.
   virtual bool RunDialog(DialogSession& session) = 0;
 
   // A warning with OK and Cancel. Esc and the close box are Cancel.
@@ -228,8 +232,8 @@ class FrontEnd {
 
   virtual void Beep() = 0;
 
-  // Returns once `done` returns true, which it asks at least twenty times a second. Windows that
-  // are open keep painting themselves and take no input meanwhile.
+  // Returns once `done` returns true, which it asks at least twenty times a second, or the program
+  // quits. Windows that are open keep painting themselves and take no input meanwhile.
   virtual void WaitUntil(const std::function<bool()>& done) = 0;
 };
 

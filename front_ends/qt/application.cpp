@@ -1,6 +1,8 @@
 #include "front_ends/qt/application.h"
 
 #include <link.h>
+#include <sys/eventfd.h>
+#include <unistd.h>
 
 #include <QApplication>
 #include <QFontMetrics>
@@ -8,6 +10,7 @@
 #include <QThread>
 #include <QTranslator>
 #include <QVersionNumber>
+#include <array>
 #include <string_view>
 
 #include "front_ends/qt/display_probe.h"
@@ -34,15 +37,24 @@ bool HasForeignQt() {
   return found || QLibraryInfo::version() < built;
 }
 
+// Qt ends the process, or shows windows that stay black, where it runs out of file descriptors.
+bool HasFreeDescriptors() {
+  std::array<int, 8> taken{};
+  for (int& one : taken) one = eventfd(0, EFD_CLOEXEC);
+  const bool enough = taken.back() >= 0;
+  for (int one : taken) close(one);
+  return enough;
+}
+
 void MakeApplication(const QByteArray& platform) {
-  // Qt keeps references to both, and so must they stay.
-  static int argument_count = 1;
+  // Qt keeps references to these, and so must they stay.
+  static int argument_count = 3;
   static char name[] = "orreryui";
-  static char* arguments[] = {name, nullptr};
+  static char option[] = "-platform";
+  static QByteArray value = platform;
+  static char* arguments[] = {name, option, value.data(), nullptr};
 
   const ProcessState state;
-  qputenv("QT_QPA_PLATFORM", platform);
-  qputenv("FC_LANG", "ja");  // of glyphs that Chinese and Japanese share, the Japanese ones
   auto* application = new QApplication(argument_count, arguments);
   QApplication::setQuitOnLastWindowClosed(false);
   // The font library reads its language once, when it first looks for a glyph.
@@ -75,6 +87,7 @@ bool FindOrMakeApplication() {
   if (!found_before && HasForeignQt()) return false;
   found_before = true;
   if (QCoreApplication::instance() != nullptr) return HasApplication();
+  if (!HasFreeDescriptors()) return false;
   const std::optional<Platform> platform = UsablePlatform();
   if (!platform) return false;
   MakeApplication(platform->name);

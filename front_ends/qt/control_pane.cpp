@@ -117,9 +117,11 @@ void ControlPane::AfterGesture() {
 
 void ControlPane::Run(int index, const Gesture& gesture) {
   if (frame_.quiet() || frame_.Ended()) return;
-  gesture(session_);
-  if (!frame_.Ended()) ShowAfterGesture(index);
-  frame_.GestureDone();
+  frame_.Guarded([&] {
+    gesture(session_);
+    if (!frame_.Ended()) ShowAfterGesture(index);
+    frame_.GestureDone();
+  });
 }
 
 void ControlPane::ShowAfterGesture(int index) {

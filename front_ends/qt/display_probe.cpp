@@ -56,15 +56,22 @@ bool PluginLoads(const QString& name) {
   return false;
 }
 
+// Others end the process where they don't find what they need.
+bool CanBeProbed(const QByteArray& name) {
+  return name == "xcb" || name.startsWith("wayland") || name == "offscreen" || name == "minimal" ||
+         name == "vnc";
+}
+
 std::optional<Platform> Probe(const QByteArray& platform) {
   const QByteArray name = platform.split(':').front().trimmed().toLower();
+  if (!CanBeProbed(name)) return std::nullopt;
   Platform found{platform, nullptr};
   if (name == "xcb") {
     found.connection = ConnectToXServer();
     if (!found.connection) return std::nullopt;
   }
   if (name.startsWith("wayland") && !WaylandServerAnswers()) return std::nullopt;
-  if (name.isEmpty() || !PluginLoads(QString::fromLatin1(name))) return std::nullopt;
+  if (!PluginLoads(QString::fromLatin1(name))) return std::nullopt;
   return found;
 }
 

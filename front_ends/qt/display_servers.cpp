@@ -1,6 +1,5 @@
 #include "front_ends/qt/display_servers.h"
 
-#include <dlfcn.h>
 #include <poll.h>
 #include <pthread.h>
 #include <sys/socket.h>
@@ -17,6 +16,8 @@
 #include <string>
 #include <thread>
 
+#include "front_ends/qt/xcb_library.h"
+
 namespace orreryui {
 namespace {
 
@@ -24,29 +25,37 @@ constexpr std::chrono::seconds kPatience(3);
 
 // Connects by the library that Qt itself uses, which knows about names and authorities.
 std::shared_ptr<void> Connect() {
-  void* const library = dlopen("libxcb.so.1", RTLD_NOW | RTLD_LOCAL);
-  if (library == nullptr) return nullptr;
-  using ConnectTo = void*(const char*, int*);
-  using HasError = int(void*);
-  using Disconnect = void(void*);
-  auto* const connect = reinterpret_cast<ConnectTo*>(dlsym(library, "xcb_connect"));
-  auto* const has_error = reinterpret_cast<HasError*>(dlsym(library, "xcb_connection_has_error"));
-  auto* const disconnect = reinterpret_cast<Disconnect*>(dlsym(library, "xcb_disconnect"));
+  auto* const connect = XcbFunction<void*(const char*, int*)>("xcb_connect");
+  auto* const has_error = XcbFunction<int(void*)>("xcb_connection_has_error");
+  auto* const disconnect = XcbFunction<void(void*)>("xcb_disconnect");
   if (connect == nullptr || has_error == nullptr || disconnect == nullptr) return nullptr;
   std::shared_ptr<void> connection(connect(nullptr, nullptr), disconnect);
   return has_error(connection.get()) == 0 ? connection : nullptr;
 }
 
-// Runs Connect on a thread that takes none of the host's signals.
+// Blocks all signals of the thread, and those of the threads that it starts meanwhile.
+class SignalBlock {
+ public:
+  SignalBlock() {
+    sigset_t all;
+    sigfillset(&all);
+    pthread_sigmask(SIG_SETMASK, &all, &before_);
+  }
+  ~SignalBlock() { pthread_sigmask(SIG_SETMASK, &before_, nullptr); }
+  SignalBlock(const SignalBlock&) = delete;
+  SignalBlock& operator=(const SignalBlock&) = delete;
+
+ private:
+  sigset_t before_;
+};
+
+// Runs Connect on a thread that takes none of the host's signals. Throws where no thread can be
+// made: the X platform couldn't do without one, either.
 std::future<std::shared_ptr<void>> StartConnecting() {
   std::packaged_task<std::shared_ptr<void>()> task(Connect);
   std::future<std::shared_ptr<void>> answer = task.get_future();
-  sigset_t all;
-  sigset_t before;
-  sigfillset(&all);
-  pthread_sigmask(SIG_SETMASK, &all, &before);
+  const SignalBlock block;
   std::thread(std::move(task)).detach();
-  pthread_sigmask(SIG_SETMASK, &before, nullptr);
   return answer;
 }
 
@@ -85,11 +94,8 @@ std::shared_ptr<void> ConnectToXServer() {
 }
 
 bool XConnectionHolds(void* connection) {
-  void* const library = dlopen("libxcb.so.1", RTLD_NOW | RTLD_LOCAL);
-  if (library == nullptr) return true;
-  using Ask = int(void*);
-  auto* const has_error = reinterpret_cast<Ask*>(dlsym(library, "xcb_connection_has_error"));
-  auto* const socket_of = reinterpret_cast<Ask*>(dlsym(library, "xcb_get_file_descriptor"));
+  auto* const has_error = XcbFunction<int(void*)>("xcb_connection_has_error");
+  auto* const socket_of = XcbFunction<int(void*)>("xcb_get_file_descriptor");
   if (has_error == nullptr || socket_of == nullptr) return true;
   if (has_error(connection) != 0) return false;
   // The server may have gone before anybody read from the connection.

@@ -14,7 +14,11 @@ InputBlock::~InputBlock() { QApplication::restoreOverrideCursor(); }
 
 bool InputBlock::eventFilter(QObject*, QEvent* event) {
   switch (event->type()) {
+    case QEvent::Quit:
+      quits_ = true;
+      return false;
     case QEvent::Close:
+      if (quits_) return false;
       event->ignore();
       return true;
     case QEvent::MouseButtonPress:

@@ -12,6 +12,9 @@ class InputBlock : public QObject {
   InputBlock();
   ~InputBlock() override;
   bool eventFilter(QObject* watched, QEvent* event) override;
+
+ private:
+  bool quits_ = false;  // the program quits, which needs its windows closed
 };
 
 }  // namespace orreryui

@@ -15,6 +15,19 @@ class PaneFrame {
   virtual void ContentsChanged() = 0;  // a pane has other controls or texts now
   virtual void FocusChanged() = 0;     // another control is to have the input focus now
 
+  // Ends the dialog as if the user had given up, whatever its handlers say.
+  virtual void Abandon() = 0;
+
+  // Runs a gesture, from inside an input event. Nothing that is thrown goes on into Qt.
+  template <typename Function>
+  void Guarded(Function function) {
+    try {
+      function();
+    } catch (...) {
+      Abandon();
+    }
+  }
+
   // Whether widgets are being changed on the program's behalf, so that their signals and the moves
   // of the focus mean nothing.
   bool quiet() const { return quiet_ > 0; }

@@ -7,8 +7,12 @@
 extern "C" __attribute__((visibility("default"))) orreryui::FrontEnd* orreryui_front_end(
     int version) {
   if (version != orreryui::kFrontEndVersion) return nullptr;
-  if (!orreryui::FindOrMakeApplication()) return nullptr;
-  // Kept for ever: nothing of Qt may be touched while the process ends.
-  static auto* const front_end = new orreryui::QtFrontEnd;
-  return front_end;
+  try {
+    if (!orreryui::FindOrMakeApplication()) return nullptr;
+    // Kept for ever: nothing of Qt may be touched while the process ends.
+    static auto* const front_end = new orreryui::QtFrontEnd;
+    return front_end;
+  } catch (...) {
+    return nullptr;
+  }
 }

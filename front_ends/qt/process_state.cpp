@@ -10,13 +10,25 @@
 namespace orreryui {
 namespace {
 
-std::map<std::string, std::string> Environment() {
-  std::map<std::string, std::string> variables;
-  for (char** entry = environ; entry != nullptr && *entry != nullptr; ++entry) {
-    char* const equals = std::strchr(*entry, '=');
-    if (equals != nullptr) variables.emplace(std::string(*entry, equals), std::string(equals + 1));
+constexpr char kLocale[] = "LC_ALL";
+constexpr char kGlyphLanguage[] = "FC_LANG";
+
+// The last two are those that Qt may take out of the environment when it starts.
+constexpr const char* kVariables[] = {kLocale, kGlyphLanguage, "DESKTOP_STARTUP_ID",
+                                      "XDG_ACTIVATION_TOKEN"};
+
+std::optional<std::string> Variable(const char* name) {
+  const char* const value = std::getenv(name);
+  return value != nullptr ? std::optional<std::string>(value) : std::nullopt;
+}
+
+void Restore(const char* name, const std::optional<std::string>& value) {
+  if (Variable(name) == value) return;
+  if (value) {
+    setenv(name, value->c_str(), 1);
+  } else {
+    unsetenv(name);
   }
-  return variables;
 }
 
 // Setting an action anew isn't free of traces: the C library marks it as its own. So an action that
@@ -30,23 +42,19 @@ void Restore(int number, const struct sigaction& action) {
 
 }  // namespace
 
-ProcessState::ProcessState()
-    : locale_(std::setlocale(LC_ALL, nullptr)), handlers_(NSIG), environment_(Environment()) {
+ProcessState::ProcessState() : locale_(std::setlocale(LC_ALL, nullptr)), handlers_(NSIG) {
   for (int number = 1; number < NSIG; ++number) {
     sigaction(number, nullptr, &handlers_[std::size_t(number)]);
   }
+  for (const char* name : kVariables) variables_[name] = Variable(name);
   std::setlocale(LC_ALL, "");
-  if (std::strcmp(nl_langinfo(CODESET), "UTF-8") != 0) setenv("LC_ALL", "C.UTF-8", 1);
+  if (std::strcmp(nl_langinfo(CODESET), "UTF-8") != 0) setenv(kLocale, "C.UTF-8", 1);
+  // Of glyphs that Chinese and Japanese share, the Japanese ones.
+  setenv(kGlyphLanguage, "ja", 1);
 }
 
 ProcessState::~ProcessState() {
-  for (const auto& [name, value] : Environment()) {
-    if (environment_.count(name) == 0) unsetenv(name.c_str());
-  }
-  for (const auto& [name, value] : environment_) {
-    const char* const now = std::getenv(name.c_str());
-    if (now == nullptr || now != value) setenv(name.c_str(), value.c_str(), 1);
-  }
+  for (const auto& [name, value] : variables_) Restore(name, value);
   for (int number = 1; number < NSIG; ++number) {
     Restore(number, handlers_[std::size_t(number)]);
   }

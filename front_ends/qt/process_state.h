@@ -4,13 +4,16 @@
 
 #include <csignal>
 #include <map>
+#include <optional>
 #include <string>
 #include <vector>
 
 namespace orreryui {
 
-// Remembers locale, signal handlers and environment, and restores them when it is destroyed. In
-// between the environment names a UTF-8 locale, without which Qt would complain.
+// Remembers locale, signal handlers and the variables of the environment that change meanwhile, and
+// restores them when it is destroyed. In between the environment names a UTF-8 locale, without
+// which Qt would complain, and Japanese as the language of the glyphs. What another thread sets in
+// other variables stays.
 class ProcessState {
  public:
   ProcessState();
@@ -21,7 +24,7 @@ class ProcessState {
  private:
   std::string locale_;
   std::vector<struct sigaction> handlers_;  // by signal number
-  std::map<std::string, std::string> environment_;
+  std::map<const char*, std::optional<std::string>> variables_;
 };
 
 }  // namespace orreryui

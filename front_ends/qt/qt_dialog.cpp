@@ -1,15 +1,15 @@
 #include "front_ends/qt/qt_dialog.h"
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QCursor>
-#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QScreen>
 #include <QStyle>
 #include <QTimer>
-#include <QWindow>
 #include <algorithm>
 
+#include "front_ends/qt/foreign_window.h"
 #include "front_ends/qt/widget_text.h"
 
 namespace orreryui {
@@ -26,6 +26,12 @@ QRect Inside(QRect window, const QRect& area) {
   window.moveLeft(std::max(window.left(), area.left()));
   window.moveTop(std::max(window.top(), area.top()));
   return window;
+}
+
+QPoint OnSomeScreen(QPoint pixel) {
+  const QRect all = QGuiApplication::primaryScreen()->virtualGeometry();
+  return {std::clamp(pixel.x(), all.left(), all.right()),
+          std::clamp(pixel.y(), all.top(), all.bottom())};
 }
 
 }  // namespace
@@ -45,10 +51,11 @@ QtDialog::~QtDialog() {
 
 void QtDialog::RunModally() {
   Quietly([this] { Build(); });
-  QWindow* const host = parentWidget() == nullptr ? QGuiApplication::focusWindow() : nullptr;
+  QWindow* const host = QGuiApplication::focusWindow();
   create();
-  if (host != nullptr) windowHandle()->setTransientParent(host);
+  if (parentWidget() == nullptr) StandBefore(host);
   windowHandle()->installEventFilter(this);
+  qApp->installEventFilter(this);
   Place();
   Quietly([this] {
     ShowFocus();
@@ -56,9 +63,16 @@ void QtDialog::RunModally() {
   });
   activateWindow();
   Paint();
-  if (!Ended()) loop_.exec(QEventLoop::DialogExec);
-  // The program quits: the dialog ends as if its window had been closed.
+  if (!Ended() && !abandoned_) loop_.exec(QEventLoop::DialogExec);
   if (!Ended()) session_.Escape();
+}
+
+void QtDialog::StandBefore(QWindow* host) {
+  if (host == nullptr) {
+    foreign_host_ = ActiveForeignWindow(winId());
+    host = foreign_host_.get();
+  }
+  if (host != nullptr) windowHandle()->setTransientParent(host);
 }
 
 void QtDialog::Build() {
@@ -152,8 +166,10 @@ void QtDialog::Place() {
   // A dialog stays on the screen of the window that it stands before.
   const auto frame = [&area](const QWindow* before) {
     if (before == nullptr) return area;
-    area = before->screen()->availableGeometry();
-    return before->frameGeometry();
+    const QRect place = FrameOf(*before);
+    const QScreen* const there = QGuiApplication::screenAt(place.center());
+    area = (there != nullptr ? there : before->screen())->availableGeometry();
+    return place;
   };
   QRect window(QPoint(), size());
   switch (placed_.placement) {
@@ -167,7 +183,7 @@ void QtDialog::Place() {
       window.moveCenter(QCursor::pos());
       break;
     case Placement::kAtPixel:
-      window.moveTopLeft({placed_.x, placed_.y});
+      window.moveTopLeft(OnSomeScreen({placed_.x, placed_.y}));
       if (const QScreen* const there = QGuiApplication::screenAt(window.topLeft())) {
         area = there->availableGeometry();
       }
@@ -215,22 +231,17 @@ void QtDialog::GestureDone() {
   }
 }
 
-void QtDialog::PressEnter() {
+void QtDialog::Run(void (DialogSession::*gesture)()) {
   if (Ended()) return;
-  session_.Enter();
-  GestureDone();
+  Guarded([&] {
+    (session_.*gesture)();
+    GestureDone();
+  });
 }
 
-void QtDialog::PressEscape() {
-  if (Ended()) return;
-  session_.Escape();
-  GestureDone();
-}
-
-void QtDialog::Paint() {
-  if (Ended()) return;
-  session_.Paint();
-  GestureDone();
+void QtDialog::Abandon() {
+  abandoned_ = true;
+  loop_.quit();
 }
 
 void QtDialog::keyPressEvent(QKeyEvent* event) {
@@ -249,11 +260,13 @@ void QtDialog::keyPressEvent(QKeyEvent* event) {
 }
 
 void QtDialog::closeEvent(QCloseEvent* event) {
-  PressEscape();
-  event->setAccepted(Ended());
+  if (!abandoned_) PressEscape();
+  event->setAccepted(Ended() || abandoned_);
 }
 
 bool QtDialog::eventFilter(QObject* watched, QEvent* event) {
+  // A dialog that another window covers would refuse to close, and thereby the quitting.
+  if (watched == qApp && event->type() == QEvent::Quit) Abandon();
   if (watched == windowHandle() && event->type() == QEvent::Expose) {
     if (!windowHandle()->isExposed()) {
       covered_ = true;

@@ -5,6 +5,8 @@
 #include <QDialog>
 #include <QEventLoop>
 #include <QScrollArea>
+#include <QWindow>
+#include <memory>
 
 #include "front_ends/qt/control_pane.h"
 #include "front_ends/qt/pane_frame.h"
@@ -18,7 +20,8 @@ class QtDialog : public QDialog, public DialogWindow, private PaneFrame {
   QtDialog(DialogSession& session, QWidget* owner);
   ~QtDialog() override;
 
-  // Shows the dialog, whose session has been started, until it has ended or the program quits.
+  // Shows the dialog, whose session has been started, until it has ended. A program that quits ends
+  // it as if its window had been closed.
   void RunModally();
 
   void Refresh(const std::vector<int>& indices) override;
@@ -34,12 +37,17 @@ class QtDialog : public QDialog, public DialogWindow, private PaneFrame {
  private:
   bool Ended() const override { return session_.Ended(); }
   void GestureDone() override;
-  void PressEnter() override;
-  void PressEscape() override;
+  void PressEnter() override { Run(&DialogSession::Enter); }
+  void PressEscape() override { Run(&DialogSession::Escape); }
   void ContentsChanged() override;
   void FocusChanged() override;
+  void Abandon() override;
+
+  // Runs a gesture that no pane has.
+  void Run(void (DialogSession::*gesture)());
 
   void Build();
+  void StandBefore(QWindow* host);
   void Arrange();
   void LimitGrowth();
   void GrowToFit();
@@ -51,10 +59,12 @@ class QtDialog : public QDialog, public DialogWindow, private PaneFrame {
   const QWindow* HostWindow() const;  // that the outermost dialog stands before, or null
   QRect AvailableArea() const;
   QSize Room() const;  // for a dialog inside a frame in that area
-  void Paint();
+  void Paint() { Run(&DialogSession::Paint); }
 
   DialogSession& session_;
+  std::unique_ptr<QWindow> foreign_host_;  // the host's window where that isn't one of Qt's
   QEventLoop loop_;
+  bool abandoned_ = false;
   ControlPane* pane_ = nullptr;
   QScrollArea* scroll_area_ = nullptr;  // only where the screen is too small
   DialogScale scale_;

@@ -2,7 +2,9 @@
 
 #include <QApplication>
 #include <QEventLoop>
+#include <QScopedValueRollback>
 #include <QTimer>
+#include <climits>
 
 #include "front_ends/qt/application.h"
 #include "front_ends/qt/choosers.h"
@@ -12,35 +14,43 @@
 #include "front_ends/qt/qt_dialog.h"
 
 namespace orreryui {
+namespace {
+
+// What `body` returns, unless there is no application or something is thrown.
+template <class Answer, class Body>
+Answer Guarded(Answer given_up, Body body) {
+  try {
+    if (!HasApplication()) return given_up;
+    const JapaneseLabels labels;
+    return body();
+  } catch (...) {
+    return given_up;
+  }
+}
+
+}  // namespace
 
 bool QtFrontEnd::RunDialog(DialogSession& session) {
-  if (!HasApplication()) return false;
-  const JapaneseLabels labels;
-  QtDialog dialog(session, Innermost());
-  session.Start(dialog);
-  if (session.Ended()) return true;
-  open_.push_back(&dialog);
-  dialog.RunModally();
-  open_.pop_back();
-  return true;
+  return Guarded(false, [&] {
+    QtDialog dialog(session, innermost_);
+    session.Start(dialog);
+    if (session.Ended()) return true;
+    const QScopedValueRollback<QWidget*> innermost(innermost_, &dialog);
+    dialog.RunModally();
+    return true;
+  });
 }
 
 MessageBoxAnswer QtFrontEnd::ShowMessage(const std::string& text) {
-  if (!HasApplication()) return MessageBoxAnswer::kCancel;
-  const JapaneseLabels labels;
-  return AskWarning(Innermost(), text);
+  return Guarded(MessageBoxAnswer::kCancel, [&] { return AskWarning(innermost_, text); });
 }
 
 std::optional<std::string> QtFrontEnd::ChooseFile(const FileChooserRequest& request) {
-  if (!HasApplication()) return std::nullopt;
-  const JapaneseLabels labels;
-  return AskFile(Innermost(), request);
+  return Guarded(std::optional<std::string>(), [&] { return AskFile(innermost_, request); });
 }
 
 std::optional<std::uint32_t> QtFrontEnd::ChooseColour(std::uint32_t start) {
-  if (!HasApplication()) return std::nullopt;
-  const JapaneseLabels labels;
-  return AskColour(Innermost(), start);
+  return Guarded(std::optional<std::uint32_t>(), [&] { return AskColour(innermost_, start); });
 }
 
 void QtFrontEnd::Beep() {
@@ -48,11 +58,19 @@ void QtFrontEnd::Beep() {
 }
 
 void QtFrontEnd::WaitUntil(const std::function<bool()>& done) {
-  constexpr int kInterval = 25;  // milliseconds
-  const InputBlock block;
-  QTimer timer;
-  timer.start(kInterval);
-  while (!done()) QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+  Guarded(false, [&] {
+    constexpr int kInterval = 25;  // milliseconds
+    constexpr int kAskAgain = INT_MIN;
+    const InputBlock block;
+    QEventLoop loop;
+    QTimer timer;
+    QObject::connect(&timer, &QTimer::timeout, &loop, [&loop] { loop.exit(kAskAgain); });
+    timer.start(kInterval);
+    bool is_done = done();
+    // A program that quits ends the loop with a code of its own.
+    while (!is_done && loop.exec() == kAskAgain) is_done = done();
+    return is_done;
+  });
 }
 
 }  // namespace orreryui

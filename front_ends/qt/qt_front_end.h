@@ -2,15 +2,14 @@
 #ifndef ORRERYUI_FRONT_ENDS_QT_QT_FRONT_END_H_
 #define ORRERYUI_FRONT_ENDS_QT_QT_FRONT_END_H_
 
-#include <vector>
-
 #include "platform/front_end.h"
 
 class QWidget;
 
 namespace orreryui {
 
-// There must be a QApplication on the calling thread.
+// Where there is no QApplication on the calling thread, and where something is thrown, the user has
+// given up.
 class QtFrontEnd : public FrontEnd {
  public:
   bool RunDialog(DialogSession& session) override;
@@ -21,9 +20,7 @@ class QtFrontEnd : public FrontEnd {
   void WaitUntil(const std::function<bool()>& done) override;
 
  private:
-  QWidget* Innermost() const { return open_.empty() ? nullptr : open_.back(); }
-
-  std::vector<QWidget*> open_;  // the dialogs on the screen, outermost first
+  QWidget* innermost_ = nullptr;  // of the dialogs on the screen
 };
 
 }  // namespace orreryui

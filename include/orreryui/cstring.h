@@ -8,7 +8,9 @@
 // Positions and lengths count bytes. Searches and case changes go by character: the second byte of
 // a double-byte character is never taken for a character of its own.
 //
-// Nothing here throws. When memory runs out, or a string would pass 2 GB, the process is aborted.
+// When memory runs out, or a string would pass 2 GB, std::bad_alloc is thrown and the string stays
+// as it was; in a program that is built without exceptions the process is aborted. Nothing else
+// throws.
 #ifndef ORRERYUI_CSTRING_H_
 #define ORRERYUI_CSTRING_H_
 
@@ -20,6 +22,7 @@
 #include <cstdlib>
 #include <cstring>
 #include <functional>
+#include <new>
 #include <utility>
 
 namespace orreryui {
@@ -209,7 +212,7 @@ class CString {
   // `text` may lie in this string.
   CString& Append(const char* text, std::size_t length) {
     if (length == 0) return *this;
-    if (length > INT_MAX) std::abort();
+    if (length > INT_MAX) TooLong();
     const std::size_t size = Size();
     const std::size_t total = size + length;
     if (total > static_cast<std::size_t>(Read().capacity)) {
@@ -223,6 +226,14 @@ class CString {
     return *this;
   }
 
+  [[noreturn]] static void TooLong() {
+#if defined(__cpp_exceptions)
+    throw std::bad_alloc();
+#else
+    std::abort();
+#endif
+  }
+
   // Gives the string room for `capacity` bytes, more than it holds. SetLength must follow. A long
   // string grows where it lies, if the system can do that: there are no two copies of it.
   void Reserve(std::size_t capacity) {
@@ -230,7 +241,7 @@ class CString {
     void* const old = IsEmpty() ? nullptr : bytes_ - sizeof(Header);
     void* const block =
         capacity < INT_MAX ? std::realloc(old, sizeof(Header) + capacity + 1) : nullptr;
-    if (!block) std::abort();
+    if (!block) TooLong();
     bytes_ = static_cast<char*>(block) + sizeof(Header);
     Write({length, static_cast<int>(capacity)});
   }

@@ -1,8 +1,8 @@
 // The operations of the library: everything that a host calls.
 //
 // Each operation shows one modal dialog in Japanese, returns when the user has closed it, and keeps
-// nothing until the next call but the data files. It must be called from one thread only; in a
-// program that has a QApplication, from the thread of that object.
+// nothing until the next call but the data files. All calls that show a dialog come from one
+// thread; in a program that has a QApplication, from the thread of that object.
 //
 // Strings are in code page 932 (Shift-JIS). The operation gets copies and returns a string that the
 // caller owns. Where a result has several fields, a vertical bar stands between them: each number
@@ -10,6 +10,24 @@
 // text moves the fields behind it. The empty string means that the user gave up, or that no window
 // could be shown: no display, or no front end beside the library. Data files that the dialog had
 // written before stay written.
+//
+// An operation returns what it returns when the user gives up, and throws nothing, also where
+// memory, threads or file descriptors run out, where the program's QApplication quits, and at once
+// where another operation still runs: in another thread, or in this one, from an event that the
+// program gets meanwhile. A file that can't be written, a limit on its size included, is as it was
+// before.
+//
+// What a program has to see to itself:
+//
+//   Other toolkits   The dialog stands before the active window if that is the program's, which is
+//                    known on X11 alone, and keeps the input from the windows of Qt. A program that
+//                    has windows of another toolkit disables them during a call.
+//   The display      If it dies while a dialog is open, Qt ends the process.
+//   The environment  While the first dialog of a program without a QApplication starts, LC_ALL and
+//                    FC_LANG are set, DESKTOP_STARTUP_ID may be unset, and the locale and signal
+//                    handlers may be others. All are put back before the dialog shows. Other
+//                    threads had better not read or set environment or locale in that moment. Where
+//                    there is a QApplication, nothing of this changes.
 //
 // Folders end in their separator, such as C:\MAP\ or /home/me/map/. Both separators are understood,
 // a drive letter is dropped, and a name that doesn't exist as spelled is looked for without regard

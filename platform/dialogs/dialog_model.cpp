@@ -92,6 +92,7 @@ void Control::ReplaceShownText(std::string_view bytes) {
 }
 
 DialogModel::DialogModel(const DialogTemplate& dialog_template) : title_(dialog_template.title) {
+  controls_.reserve(dialog_template.controls.size());
   for (const ControlTemplate& source : dialog_template.controls) {
     controls_.push_back(MakeControl(source));
   }

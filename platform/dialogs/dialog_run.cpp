@@ -23,40 +23,33 @@ std::string_view Bytes(const CString& text) {
 
 }  // namespace
 
-// The length of one gesture. It is refused while another one is carried out, when another dialog
-// covers this one, and after the end; what it changed reaches the screen when it is over.
-class DialogRun::Gesture {
- public:
-  explicit Gesture(DialogRun& run) : root_(run.Root()) {
-    accepted_ = !root_.busy_ && !root_.ended_ && innermost == &root_ && run.IsShown();
-    if (accepted_) root_.busy_ = true;
+// Refused while another gesture is carried out, when another dialog covers this one, and after the
+// end. What it changed reaches the screen when it is over.
+template <class Body>
+void DialogRun::Gesture(Body body) {
+  DialogRun& root = Root();
+  if (root.busy_ || root.ended_ || innermost != &root || !IsShown()) return;
+  root.busy_ = true;
+  try {
+    body();
+    root.busy_ = false;
+    root.Refresh();
+  } catch (...) {
+    root.GiveUp();
   }
-  ~Gesture() {
-    if (!accepted_) return;
-    root_.busy_ = false;
-    root_.Refresh();
-  }
-  Gesture(const Gesture&) = delete;
-  Gesture& operator=(const Gesture&) = delete;
-
-  explicit operator bool() const { return accepted_; }
-
- private:
-  DialogRun& root_;
-  bool accepted_ = false;
-};
+}
 
 DialogRun::DialogRun(CDialog& dialog) : dialog_(dialog), outer_(innermost) {
-  innermost = this;
   dialog_.model_ = DialogModel(dialog_.template_);
   dialog_.run_ = this;
+  innermost = this;
 }
 
 DialogRun::DialogRun(CDialog& dialog, DialogRun& sheet, int tab_control, int tab)
     : dialog_(dialog), sheet_(&sheet), tab_control_(tab_control), tab_(tab) {
   dialog_.model_ = DialogModel(dialog_.template_);
-  dialog_.run_ = this;
   sheet.pages_.push_back(this);
+  dialog_.run_ = this;
 }
 
 DialogRun::~DialogRun() {
@@ -69,12 +62,13 @@ DialogRun::~DialogRun() {
 void DialogRun::Start(DialogWindow& window) {
   window_ = &window;
   if (sheet_) return;
-  Gesture gesture(*this);
-  FocusFirstControl();
-  Initialise();
-  // It may have hidden or disabled that control.
-  if (focus_run_ == this && Target(Model().At(focus_).id) < 0) FocusFirstControl();
-  if (focus_run_ == this) FocusCheckedButton();
+  Gesture([this] {
+    FocusFirstControl();
+    Initialise();
+    // It may have hidden or disabled that control.
+    if (focus_run_ == this && Target(Model().At(focus_).id) < 0) FocusFirstControl();
+    if (focus_run_ == this) FocusCheckedButton();
+  });
 }
 
 void DialogRun::Initialise() {
@@ -148,14 +142,18 @@ void DialogRun::MoveFocus(int index) {
 
 void DialogRun::Focus(int id) {
   const int index = Target(id);
-  Gesture gesture(*this);
-  if (gesture && index >= 0) MoveFocus(index);
+  Gesture([&] {
+    if (index >= 0) MoveFocus(index);
+  });
 }
 
 void DialogRun::Click(int id) {
   const int index = Target(id);
-  Gesture gesture(*this);
-  if (!gesture || index < 0 || !Model().At(index).IsButton()) return;
+  if (index < 0 || !Model().At(index).IsButton()) return;
+  Gesture([&] { PressButton(index); });
+}
+
+void DialogRun::PressButton(int index) {
   MoveFocus(index);
   if (Ended()) return;
   switch (Model().At(index).kind) {
@@ -169,7 +167,7 @@ void DialogRun::Click(int id) {
     default:
       break;
   }
-  Send(id, Event::kClick);
+  Send(Model().At(index).id, Event::kClick);
 }
 
 void DialogRun::ClickRadioButton(int index) {
@@ -179,18 +177,25 @@ void DialogRun::ClickRadioButton(int index) {
 
 TypedText DialogRun::Type(int id, const std::string& text) {
   const int index = Model().IndexOf(id);
-  Gesture gesture(*this);
   if (index < 0 || !Model().At(index).HasEditField()) return {};
-  if (!gesture || Target(id) < 0) return {ToUtf8(Model().At(index).ShownText()), {}};
+  std::string refused;
+  Gesture([&] {
+    if (Target(id) >= 0) refused = TypeInto(index, text);
+  });
+  return {ToUtf8(Model().At(index).ShownText()), refused};
+}
+
+// Returns the characters that were left out.
+std::string DialogRun::TypeInto(int index, const std::string& text) {
   MoveFocus(index);
   const orreryui::Control& control = Model().At(index);
   const bool multi_line = control.kind == ControlKind::kMultiLineEdit;
   const Encoded typed = MergeEdit(control.ShownText(), WithoutForbiddenBytes(text, multi_line));
   if (!Ended() && control.ShownText() != typed.bytes) {
     Model().Change(index).ReplaceShownText(typed.bytes);
-    Send(id, Event::kChange);
+    Send(control.id, Event::kChange);
   }
-  return {ToUtf8(Model().At(index).ShownText()), typed.refused};
+  return typed.refused;
 }
 
 bool DialogRun::HasRow(int index, int row) const {
@@ -200,8 +205,11 @@ bool DialogRun::HasRow(int index, int row) const {
 
 void DialogRun::Pick(int id, int row) {
   const int index = Target(id);
-  Gesture gesture(*this);
-  if (!gesture || index < 0 || !HasRow(index, row)) return;
+  if (index < 0 || !HasRow(index, row)) return;
+  Gesture([&] { PickRow(index, row); });
+}
+
+void DialogRun::PickRow(int index, int row) {
   MoveFocus(index);
   // The handler of the focus that was lost may have changed the list.
   if (Ended() || !HasRow(index, row)) return;
@@ -229,41 +237,44 @@ void DialogRun::SelectRow(int index, int row) {
 
 void DialogRun::DoubleClick(int id, int row, int column) {
   const int index = Target(id);
-  Gesture gesture(*this);
-  if (!gesture || index < 0 || !HasRow(index, row)) return;
-  if (Model().At(index).kind == ControlKind::kTab) return;
-  MoveFocus(index);
-  if (Ended() || !HasRow(index, row)) return;
-  if (Model().At(index).selection != row) SelectRow(index, row);
-  dialog_.clicked_column_ = column;
-  Send(id, Event::kDoubleClick);
+  if (index < 0 || !HasRow(index, row) || Model().At(index).kind == ControlKind::kTab) return;
+  Gesture([&] {
+    MoveFocus(index);
+    if (Ended() || !HasRow(index, row)) return;
+    if (Model().At(index).selection != row) SelectRow(index, row);
+    dialog_.clicked_column_ = column;
+    Send(id, Event::kDoubleClick);
+  });
 }
 
 void DialogRun::Scroll(int id, int line) {
   const int index = Target(id);
-  Gesture gesture(*this);
-  if (!gesture || index < 0 || Model().At(index).kind != ControlKind::kMultiLineEdit) return;
-  orreryui::Control& control = Model().Change(index);
-  control.part = PartAround(Bytes(control.text), control.part, line);
+  if (index < 0 || Model().At(index).kind != ControlKind::kMultiLineEdit) return;
+  Gesture([&] {
+    orreryui::Control& control = Model().Change(index);
+    control.part = PartAround(Bytes(control.text), control.part, line);
+  });
 }
 
 void DialogRun::Enter() {
   DialogRun& root = Root();
-  Gesture gesture(root);
-  if (!gesture) return;
-  if (!root.focus_run_) return root.PressDefaultButton();
-  DialogRun& run = *root.focus_run_;
-  const orreryui::Control& control = run.Model().At(root.focus_);
+  root.Gesture([&] { root.PressEnter(); });
+}
+
+void DialogRun::PressEnter() {
+  if (!focus_run_) return PressDefaultButton();
+  DialogRun& run = *focus_run_;
+  const orreryui::Control& control = run.Model().At(focus_);
   const bool reached = run.IsShown() && run.Target(control.id) >= 0;
   const bool is_button =
       control.kind == ControlKind::kPushButton || control.kind == ControlKind::kSwatch;
   if (reached && control.kind == ControlKind::kMultiLineEdit) {
-    run.Model().Change(root.focus_).ReplaceShownText(std::string(control.ShownText()) + "\r\n");
+    run.Model().Change(focus_).ReplaceShownText(std::string(control.ShownText()) + "\r\n");
     run.Send(control.id, Event::kChange);
   } else if (reached && is_button) {
     run.Send(control.id, Event::kClick);
   } else {
-    root.PressDefaultButton();
+    PressDefaultButton();
   }
 }
 
@@ -279,13 +290,11 @@ void DialogRun::PressDefaultButton() {
 
 void DialogRun::Escape() {
   DialogRun& root = Root();
-  Gesture gesture(root);
-  if (gesture) root.Send(IDCANCEL, Event::kClick);
+  root.Gesture([&] { root.Send(IDCANCEL, Event::kClick); });
 }
 
 void DialogRun::Paint() {
-  Gesture gesture(*this);
-  if (gesture) dialog_.OnPaint();
+  Gesture([this] { dialog_.OnPaint(); });
 }
 
 void DialogRun::End(int code) {
@@ -293,6 +302,12 @@ void DialogRun::End(int code) {
   if (root.ended_) return;
   root.ended_ = true;
   root.result_ = code;
+}
+
+void DialogRun::GiveUp() {
+  busy_ = false;
+  ended_ = true;
+  result_ = -1;
 }
 
 void DialogRun::Refresh() {

@@ -1,6 +1,7 @@
 // One run of a dialog: the rules of the platform. A run takes the user's gestures from the front
 // end, changes the model as each of them demands, and sends the events to the dialog's handlers in
-// the order that the dialogs rely on.
+// the order that the dialogs rely on. What a handler throws ends the run with -1, as if the dialog
+// had never been shown.
 #ifndef ORRERYUI_PLATFORM_DIALOGS_DIALOG_RUN_H_
 #define ORRERYUI_PLATFORM_DIALOGS_DIALOG_RUN_H_
 
@@ -48,7 +49,9 @@ class DialogRun : public DialogSession {
   static void RefreshInnermost();
 
  private:
-  class Gesture;
+  // Carries out one gesture, unless it is refused.
+  template <class Body>
+  void Gesture(Body body);
 
   DialogRun& Root() { return sheet_ ? sheet_->Root() : *this; }
   const DialogRun& Root() const { return sheet_ ? sheet_->Root() : *this; }
@@ -58,8 +61,13 @@ class DialogRun : public DialogSession {
   bool HasRow(int index, int row) const;
   bool IsShown() const;  // a page is, while its tab is selected
   void Send(int id, Event event);
-  void PressDefaultButton();
+  void PressButton(int index);
   void ClickRadioButton(int index);
+  std::string TypeInto(int index, const std::string& text);
+  void PressEnter();
+  void PressDefaultButton();
+  void GiveUp();
+  void PickRow(int index, int row);
   void PickTab(int index, int tab);
   void SelectRow(int index, int row);
   void Refresh();

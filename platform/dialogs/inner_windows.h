@@ -25,8 +25,8 @@ std::optional<std::string> ChooseFile(const FileChooserRequest& request);
 // The system's default beep.
 void MessageBeep();
 
-// Returns once `done` returns true, which is asked over and over; the dialogs that are open keep
-// painting themselves and take no input meanwhile.
+// Returns once `done` returns true, which is asked over and over, or the program quits; the dialogs
+// that are open keep painting themselves and take no input meanwhile.
 void WaitUntil(const std::function<bool()>& done);
 
 }  // namespace orreryui

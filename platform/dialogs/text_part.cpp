@@ -51,7 +51,7 @@ ShownPart FirstPart(std::string_view text) {
 ShownPart PartAround(std::string_view text, const ShownPart& shown, int line) {
   const int all = shown.lines.all;
   const int lines = std::min(kLinesOfPart, all);
-  const int first = std::clamp(line - lines / 2, 0, all - lines);
+  const int first = std::clamp(std::max(line, 0) - lines / 2, 0, all - lines);
   const std::size_t begin = OffsetOf(text, {shown.begin, shown.lines.first}, first);
   const bool is_last = first + lines == all;
   const std::size_t end =

@@ -267,6 +267,36 @@ TEST_F(DialogTest, AnInnerDialogCoversTheOuterOne) {
   EXPECT_EQ(inner.log, "2 click; ");
 }
 
+TEST_F(DialogTest, WhatAHandlerThrowsEndsItsDialogAndNoOther) {
+  DialogTemplate growing = kBare;
+  Recorder thrower{growing};
+  std::vector<int> codes;
+  dialog.on_event = [&](Recorder&, int id, Event event) {
+    if (id == kPush && event == Event::kClick) codes.push_back(thrower.DoModal());
+  };
+  thrower.on_event = [](Recorder& d, int, Event) {
+    d.End(IDOK);
+    throw 1;
+  };
+  script.OpensDialog(1).Click(kPush).OpensDialog(2).Type(kEdit, "a");
+  script.Click(kPush).OpensDialog(2).Enter();
+  script.Does([&](DialogSession&) {
+    thrower.on_init = [](Recorder&) { throw 1; };
+    return "";
+  });
+  script.Click(kPush).OpensDialog(2).Click(kCheck).ShowsCheck(kCheck, true);
+  script.Does([&](DialogSession& session) {
+    growing.controls = {kBareControls, SIZE_MAX / 2};  // more than memory holds
+    EXPECT_THROW(thrower.DoModal(), std::exception);
+    session.Click(kCheck);
+    return "";
+  });
+  script.ShowsCheck(kCheck, false).Escape();
+  Run();
+  EXPECT_EQ(codes, (std::vector<int>{-1, -1, -1}));
+  EXPECT_EQ(code, IDCANCEL);
+}
+
 TEST_F(DialogTest, WhatAHandlerChangedIsOnTheScreenBeforeAMessageBoxOpens) {
   struct Window : DialogWindow {
     void Refresh(const std::vector<int>& indices) override { refreshed = indices; }

@@ -109,8 +109,6 @@ TEST_F(MapTypeTest, WithoutAPaletteListOrAWindowNothingIsLost) {
   std::filesystem::remove(folder.Path() / "PLTTFILE.DAT");
   script.ShowsRows(kPalette, {}).ShowsSelection(kPalette, -1).Shows(kPalette, "").Click(1);
   EXPECT_EQ(Call({}), "-1|1|1|1|2|0|0|1|5|0|");
-  ScopedFrontEnd scope(nullptr);
-  EXPECT_EQ(OnMapTypeSet(1, 1, 1, 1, 1, folder.Argument(), "x"), CString());
 }
 
 TEST_F(MapTypeTest, NumbersThatNoListHoldsComeBackUnchanged) {

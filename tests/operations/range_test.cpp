@@ -32,10 +32,5 @@ TEST(RangeTest, ShowsTheCornersAndTellsWhichButtonEndedIt) {
   EXPECT_EQ(Confirm(by_enter, "1", "2", "3", "4"), -1);
 }
 
-TEST(RangeTest, WithoutAWindowTheRangeIsDropped) {
-  ScopedFrontEnd scope(nullptr);
-  EXPECT_EQ(OnRengeConfirm("1", "2", "3", "4"), -1);
-}
-
 }  // namespace
 }  // namespace orreryui

@@ -51,6 +51,12 @@ TEST_F(LentApplication, StaysWithTheThreadOfTheFirstCall) {
   ExpectNoDialog();
 }
 
+TEST_F(LentApplication, KeepsWhatTheHostSetsMeanwhile) {
+  qAddPreRoutine([] { setenv("VARIABLE_OF_THE_HOST", "1", 1); });
+  EXPECT_EQ(OnRengeConfirm("1", "2", "3", "4"), -1);
+  EXPECT_STREQ(getenv("VARIABLE_OF_THE_HOST"), "1");
+}
+
 TEST_F(LentApplication, AThousandTimes) {
   ExpectBounded([] { EXPECT_EQ(OnRengeConfirm("1", "2", "3", "4"), -1); });
 }

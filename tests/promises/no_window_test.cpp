@@ -3,6 +3,7 @@
 #include <dlfcn.h>
 #include <locale.h>
 #include <netinet/in.h>
+#include <pthread.h>
 #include <sys/socket.h>
 #include <sys/un.h>
 #include <unistd.h>
@@ -14,7 +15,24 @@
 namespace orreryui {
 namespace {
 
+bool makes_threads = true;
+
 class NoWindow : public Promise {};
+
+}  // namespace
+}  // namespace orreryui
+
+// Stands before the function of the C library.
+extern "C" __attribute__((visibility("default"))) int pthread_create(
+    pthread_t* thread, const pthread_attr_t* attributes, void* (*body)(void*), void* argument) {
+  if (!orreryui::makes_threads) return EAGAIN;
+  static auto* const create =
+      reinterpret_cast<decltype(&pthread_create)>(dlsym(RTLD_NEXT, "pthread_create"));
+  return create(thread, attributes, body, argument);
+}
+
+namespace orreryui {
+namespace {
 
 // A server that lets clients connect and never says a word to them.
 class SilentServer {
@@ -83,6 +101,20 @@ TEST_F(NoWindow, OnAWaylandSocketThatNeverAnswers) {
   setenv("WAYLAND_DISPLAY", path.c_str(), 1);
   ExpectNoDialog();
   unlink(path.c_str());
+}
+
+TEST_F(NoWindow, WhereNoThreadCanBeMade) {
+  makes_threads = false;
+  setenv("DISPLAY", ":40961", 1);
+  ExpectNoDialog();
+}
+
+TEST_F(NoWindow, WithFewDescriptors) {
+  UseOffscreen();
+  for (rlim_t count = 0; count < 8; ++count) {
+    LeaveDescriptors(count);
+    ExpectNoDialog();
+  }
 }
 
 TEST_F(NoWindow, BesideAnotherVersionOfTheToolkit) {

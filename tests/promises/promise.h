@@ -7,6 +7,8 @@
 #include <gtest/gtest.h>
 #include <orreryui/orreryui.h>
 #include <stdlib.h>
+#include <sys/resource.h>
+#include <unistd.h>
 
 #include <functional>
 #include <string>
@@ -42,6 +44,16 @@ class Promise : public testing::Test {
     const CString result = operation(0, "on", (testing::TempDir() + "/").c_str());
     ExpectSame(before, CurrentState());
     return result.operator const char*();
+  }
+
+  // Leaves the process `count` file descriptors to open.
+  static void LeaveDescriptors(rlim_t count) {
+    static const int next = dup(STDIN_FILENO);
+    close(next);
+    rlimit limit{};
+    ASSERT_EQ(getrlimit(RLIMIT_NOFILE, &limit), 0);
+    limit.rlim_cur = rlim_t(next) + count;
+    ASSERT_EQ(setrlimit(RLIMIT_NOFILE, &limit), 0);
   }
 
   // Both operations give their results for a run that didn't end in OK.

@@ -74,6 +74,17 @@ TEST_F(ToolkitHost, QuitsWhileADialogIsOpen) {
   EXPECT_EQ(answer, -1);
 }
 
+TEST_F(ToolkitHost, CallsWhileADialogIsOpen) {
+  QApplication application(arguments_.count, arguments_.values);
+  const User user([](QWidget& dialog) {
+    std::thread(ExpectNoDialog).join();
+    ExpectNoDialog();
+    EXPECT_EQ(QApplication::activeModalWidget(), &dialog);
+    User::PressConfirm(dialog);
+  });
+  EXPECT_EQ(Confirm(), 1);
+}
+
 TEST_F(ToolkitHost, KeepsItsOwnWindow) {
   QApplication application(arguments_.count, arguments_.values);
   QWidget window;

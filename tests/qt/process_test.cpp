@@ -71,7 +71,9 @@ TEST(Process, NoUsableDisplayGivesNoFrontEnd) {
   const std::vector<std::pair<const char*, const char*>> displays = {
       {nullptr, nullptr},       {nullptr, ""},
       {nullptr, ":4711"},       {"xcb", ":4711"},
-      {"xcb;wayland", nullptr}, {"nosuchplatform", nullptr}};
+      {"xcb;wayland", nullptr}, {"nosuchplatform", nullptr},
+      {"linuxfb", nullptr},     {"eglfs", nullptr},
+      {"minimalegl", nullptr},  {"vkkhrdisplay", nullptr}};
   for (const auto& [platform, display] : displays) {
     ExpectQuiet([platform = platform, display = display] {
       SetVariables(platform, display);

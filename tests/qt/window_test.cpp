@@ -7,6 +7,8 @@
 #include <QTest>
 #include <QTimer>
 #include <QWindow>
+#include <climits>
+#include <new>
 
 #include "tests/qt/plugin.h"
 
@@ -138,15 +140,60 @@ TEST(Window, DialogsNestFromInsideAGesture) {
   });
 }
 
-TEST(Window, EndsWhenTheHostQuits) {
+TEST(Window, EndsWhenTheHostQuitsWhateverIsOpenAboveIt) {
+  FakeSession inner;
+  inner.handler = [&](const std::string& gesture) { inner.ended = gesture == "escape"; };
+  FrontEnd& front_end = *LoadFrontEnd();
+  const std::function<void()> opened[] = {
+      [] {},
+      [&] {
+        inner.ended = false;
+        front_end.RunDialog(inner);
+      },
+      [&] { EXPECT_EQ(front_end.ShowMessage("?"), MessageBoxAnswer::kCancel); },
+      [&] { EXPECT_EQ(front_end.ChooseFile({}), std::nullopt); },
+      [&] { EXPECT_EQ(front_end.ChooseColour(0), std::nullopt); },
+      [&] { front_end.WaitUntil([] { return false; }); },
+  };
+  const std::pair<void (*)(), int> ways[] = {{[] { QCoreApplication::exit(3); }, 3},
+                                             {[] { QCoreApplication::quit(); }, 0}};
+  for (const auto& open : opened) {
+    for (const auto& [quit, code] : ways) {
+      FakeSession session;
+      session.Add(ControlKind::kPushButton, 1, "開く");
+      bool covered = false;
+      session.handler = [&](const std::string& gesture) {
+        session.ended = gesture == "escape" && !covered;
+        if (gesture != "click 1") return;
+        covered = true;
+        open();
+        covered = false;
+      };
+      QTimer::singleShot(0, [&] {
+        ThenInFront([&, quit = quit](QWidget& window) {
+          QTimer::singleShot(0, quit);
+          QTest::mouseClick(&ControlWidget<QPushButton>(window, 1), Qt::LeftButton);
+        });
+        front_end.RunDialog(session);
+      });
+      EXPECT_EQ(QCoreApplication::exec(), code);
+      EXPECT_TRUE(session.ended);
+      EXPECT_TRUE(QApplication::topLevelWidgets().isEmpty());
+    }
+  }
+}
+
+TEST(Window, EndsWhenAGestureThrows) {
   FakeSession session;
-  session.handler = [&](const std::string& gesture) { session.ended = gesture == "escape"; };
-  QTimer::singleShot(0, [&] {
-    QTimer::singleShot(0, [] { QCoreApplication::exit(3); });
-    LoadFrontEnd()->RunDialog(session);
+  session.Add(ControlKind::kPushButton, 1, "OK");
+  session.handler = [&](const std::string& gesture) {
+    if (gesture == "click 1") throw std::bad_alloc();
+  };
+  RunWithUser(session, [&](QDialog& window) {
+    session.ended = false;
+    QTest::mouseClick(&ControlWidget<QPushButton>(window, 1), Qt::LeftButton);
+    EXPECT_THAT(session.Take(), ElementsAre("click 1"));
   });
-  EXPECT_EQ(QCoreApplication::exec(), 3);
-  EXPECT_THAT(session.Take(), testing::Contains("escape"));
 }
 
 TEST(Window, LeavesTheHostsLoopRunning) {
@@ -240,14 +287,16 @@ TEST(Window, StaysOnTheScreenWhenItGrows) {
 }
 
 TEST(Window, StaysOnTheScreen) {
-  FakeSession session;
-  session.Add(ControlKind::kPushButton, 1, "OK");
-  session.layout.placement = Placement::kAtPixel;
-  session.layout.x = 100000;
-  session.layout.y = -100000;
-  RunWithUser(session, [&](QDialog& window) {
-    EXPECT_TRUE(window.screen()->availableGeometry().contains(window.geometry()));
-  });
+  for (const auto& [x, y] : {std::pair(100000, -100000), {INT_MAX, INT_MIN}, {INT_MIN, INT_MAX}}) {
+    FakeSession session;
+    session.Add(ControlKind::kPushButton, 1, "OK");
+    session.layout.placement = Placement::kAtPixel;
+    session.layout.x = x;
+    session.layout.y = y;
+    RunWithUser(session, [&](QDialog& window) {
+      EXPECT_TRUE(window.screen()->availableGeometry().contains(window.geometry())) << x;
+    });
+  }
 }
 
 }  // namespace

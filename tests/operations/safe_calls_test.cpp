@@ -1,0 +1,79 @@
+// What every operation does where its dialog can't be shown, comes at the wrong time or fails.
+#include <gtest/gtest.h>
+#include <orreryui/orreryui.h>
+
+#include <functional>
+#include <new>
+#include <string>
+#include <thread>
+
+#include "front_ends/script/script_front_end.h"
+#include "platform/dialogs/front_end_loader.h"
+
+namespace orreryui {
+namespace {
+
+struct Operation {
+  const char* name;
+  std::function<CString()> call;
+  const char* given_up;
+};
+
+const Operation kOperations[] = {
+    {"OnMapTypeSet", [] { return OnMapTypeSet(0, 1, 0, 0, 0, "", ""); }, ""},
+    {"OnMapPalleteSet", [] { return OnMapPalleteSet(0, "", "", 0, 0, 0); }, ""},
+    {"OnLegendElevetion", [] { return OnLegendElevetion(0, "", 0), CString(); }, ""},
+    {"OnDLLAlbumRegist", [] { return OnDLLAlbumRegist(7, "", "", "", ""); }, "4||||"},
+    {"OnAlbumUpdate", [] { return OnAlbumUpdate(7, "", "", "", "", "", "", ""); }, ""},
+    {"OnDataSourceSet", [] { return OnDataSourceSet(0, "", ""); }, ""},
+    {"OnTextDisplayDaialog", [] { return OnTextDisplayDaialog("", "", ""), CString(); }, ""},
+    {"OnMemoDisplay", [] { return OnMemoDisplay(0, 0, "", ""), CString(); }, ""},
+    {"OnRengeConfirm",
+     [] { return CString(std::to_string(OnRengeConfirm("", "", "", "")).c_str()); }, "-1"},
+};
+
+// A front end in whose dialogs something happens before the user gives up.
+class Eventful : public ScriptFrontEnd {
+ public:
+  explicit Eventful(std::function<void(DialogSession&)> event) : event_(std::move(event)) {}
+
+  bool RunDialog(DialogSession& session) override {
+    ++dialogs;
+    event_(session);
+    return true;
+  }
+
+  int dialogs = 0;
+
+ private:
+  std::function<void(DialogSession&)> event_;
+};
+
+TEST(SafeCalls, WithoutAWindowTheUserHasGivenUp) {
+  ScopedFrontEnd scope(nullptr);
+  for (const Operation& one : kOperations) EXPECT_EQ(one.call(), one.given_up) << one.name;
+}
+
+TEST(SafeCalls, NothingIsThrownAtTheHost) {
+  Eventful front_end([](DialogSession&) { throw std::bad_alloc(); });
+  ScopedFrontEnd scope(&front_end);
+  for (const Operation& one : kOperations) EXPECT_EQ(one.call(), one.given_up) << one.name;
+}
+
+TEST(SafeCalls, ASecondOneIsGivenUpAtOnce) {
+  const auto call_all = [] {
+    for (const Operation& one : kOperations) EXPECT_EQ(one.call(), one.given_up) << one.name;
+  };
+  Eventful front_end([&](DialogSession&) {
+    call_all();
+    std::thread(call_all).join();
+  });
+  ScopedFrontEnd scope(&front_end);
+  for (int call = 1; call < 3; ++call) {
+    EXPECT_EQ(OnRengeConfirm("", "", "", ""), -1);
+    EXPECT_EQ(front_end.dialogs, call);
+  }
+}
+
+}  // namespace
+}  // namespace orreryui
