@@ -125,18 +125,18 @@ TEST_F(DataSourceTest, ADeletionTakesOneNameOffWhatTheFileHoldsByThen) {
       {"a\nb\n", "a\n", 2, "a\n"},
       {"a\nb\n", "", 1, ""},
   };
-  for (const auto& [opened, meanwhile, row, after] : cases) {
-    folder.Write(kList, opened);
+  for (const auto& c : cases) {
+    folder.Write(kList, c.opened);
     ScriptFrontEnd visit;
     visit.OpensDialog(134).Does([&](DialogSession&) {
-      folder.Write(kList, meanwhile);
+      folder.Write(kList, c.meanwhile);
       return "";
     });
-    visit.Pick(135, row).Click(109).Escape();
+    visit.Pick(135, c.row).Click(109).Escape();
     ScopedFrontEnd scope(&visit);
     OnDataSourceSet(0, "off", folder.Argument());
     EXPECT_EQ(visit.Failures(), "");
-    EXPECT_EQ(folder.Read(kList), after) << meanwhile;
+    EXPECT_EQ(folder.Read(kList), c.after) << c.meanwhile;
   }
 }
 
