@@ -7,7 +7,8 @@
 //
 //   FrontEnd       implemented by the front end: dialogs, message boxes, choosers, waiting
 //   DialogWindow   implemented by the front end: one shown dialog, told what to draw anew
-//   DialogSession  implemented by the library: one running dialog, told what the user did
+//   DialogSession  implemented by the library: one running dialog, told what the user did. What its
+//                  pages and the panel of a file chooser have in common with it is a ControlSession
 //
 // All text is UTF-8. Controls are named by their number; controls that bear the number
 // kNoControlId can't be the object of a gesture. Everything runs on the thread that called
@@ -148,18 +149,18 @@ class DialogWindow {
   // The controls at these indices, as Control(i) counts them, look different now.
   virtual void Refresh(const std::vector<int>& indices) = 0;
 
-  // Layout() has changed: title, place or focus.
+  // Layout() has changed, title, place or focus, or the label that a panel gives.
   virtual void RefreshLayout() = 0;
 };
 
-// One running dialog. A gesture on a control that is hidden, disabled, unknown or of the wrong
-// kind, or on a dialog that isn't the innermost one, does nothing.
-class DialogSession {
+// The controls of one template while they are on the screen: those of a dialog, of one of its pages
+// or of a file chooser's panel. A gesture on a control that is hidden, disabled, unknown or of the
+// wrong kind, or while another window is above this one, does nothing.
+class ControlSession {
  public:
-  virtual ~DialogSession() = default;
+  virtual ~ControlSession() = default;
 
-  // `window` must live until RunDialog returns. The library doesn't own it. Pages exist once Start
-  // of their dialog has returned; a page is filled by then, and Start only joins it to its window.
+  // `window` must live until RunDialog or ChooseFile returns. The library doesn't own it.
   virtual void Start(DialogWindow& window) = 0;
   virtual bool Ended() const = 0;
 
@@ -167,31 +168,53 @@ class DialogSession {
   virtual int ControlCount() const = 0;              // in tab order
   virtual ControlView Control(int index) const = 0;  // 0 to ControlCount() - 1
 
-  // The page that lies over a tab control while tab `tab` is selected, or nothing. The page is a
-  // session of its own, with its own controls, and lives as long as this one. Its focus, Enter and
-  // Escape are those of this session.
-  virtual DialogSession* Page(int tab_control, int tab) = 0;
-
   // The gestures. Each but Scroll moves the focus to its control first, as the user's hand does.
   virtual void Focus(int id) = 0;
   virtual void Click(int id) = 0;  // push buttons, radio buttons, check boxes
   // The box, or the part of its text that is shown, now reads `text`.
   virtual TypedText Type(int id, const std::string& text) = 0;
   virtual void Pick(int id, int row) = 0;  // a row of a list or combo box, or a tab
-  // Selects the row if it isn't selected yet, then reports the double click. `column` is 0 for a
-  // list without columns.
-  virtual void DoubleClick(int id, int row, int column) = 0;
+  // Selects the row if it isn't selected yet, then reports the double click.
+  virtual void DoubleClick(int id, int row) = 0;
 
   // The user has scrolled a multi-line edit to this line: the part that is shown becomes the one
   // around it. A look at the text and no more: the focus stays where it is.
   virtual void Scroll(int id, int line) = 0;
 
-  // Gestures without a control: the keys, and the request of the system to draw anew. Enter presses
-  // the focused push button, else the default one. In a multi-line edit it adds a line break at the
-  // end of the text; a front end that knows the place of the cursor types it with Type instead.
+  // The system asks to draw anew.
+  virtual void Paint() = 0;
+};
+
+// A dialog with a window of its own.
+class DialogSession : public virtual ControlSession {
+ public:
+  // The page that lies over a tab control while tab `tab` is selected, or nothing. The page has
+  // controls of its own, and lives as long as this session; its focus and its end are those of this
+  // session. Pages exist once Start has returned; a page is filled by then, and its own Start only
+  // joins it to its window.
+  virtual ControlSession* Page(int tab_control, int tab) = 0;
+
+  // Enter presses the focused push button, else the default one. In a multi-line edit it adds a
+  // line break at the end of the text; a front end that knows the place of the cursor types it with
+  // Type instead.
   virtual void Enter() = 0;
   virtual void Escape() = 0;
-  virtual void Paint() = 0;
+};
+
+// A panel below the list of a file chooser. Enter, Esc and the end are the chooser's; a session
+// that ends itself (Ended() after a gesture) closes the chooser as if the user had given up.
+class PanelSession : public virtual ControlSession {
+ public:
+  // The row of a file, not of a folder, is the one that is selected now; what is typed into the
+  // name field selects none. The full path, in the system's own form.
+  virtual void SelectFile(const std::string& path) = 0;
+
+  // The chooser shows the files of another folder now.
+  virtual void ChangeFolder() = 0;
+
+  // What the chooser's accepting button reads, as far as it isn't empty.
+  // DialogWindow::RefreshLayout tells that it has changed.
+  virtual std::string AcceptLabel() const = 0;
 };
 
 enum class MessageBoxAnswer { kOk, kCancel };
@@ -211,6 +234,8 @@ struct FileChooserRequest {
   // Which characters of a path make it one that can't be used; a file with such a path isn't to be
   // chosen. Where this is null, any may be.
   std::function<std::string(const std::string& path)> refused = nullptr;
+
+  PanelSession* panel = nullptr;  // laid below the chooser's own controls; the caller keeps it
 };
 
 class FrontEnd {
@@ -241,7 +266,7 @@ class FrontEnd {
 // with C linkage. The plug-in owns the object and keeps it until the process ends. Null if it was
 // built for another version of this header or can't show a window in this process. It may be
 // called again after it returned null.
-inline constexpr int kFrontEndVersion = 1;
+inline constexpr int kFrontEndVersion = 2;
 inline constexpr char kFrontEndSymbol[] = "orreryui_front_end";
 using FrontEndFunction = FrontEnd*(int version);
 

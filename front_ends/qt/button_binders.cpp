@@ -69,7 +69,7 @@ void SetTabStop(const QButtonGroup& group) {
 ButtonBinder::ButtonBinder(const BinderPlace& place, QAbstractButton* button)
     : ControlBinder(place), button_(button) {
   QObject::connect(button_, &QAbstractButton::clicked, button_,
-                   [this] { Run([this](DialogSession& session) { session.Click(id()); }); });
+                   [this] { Run([this](ControlSession& session) { session.Click(id()); }); });
 }
 
 void ButtonBinder::ShowState(const ControlView& view) {
@@ -148,7 +148,7 @@ QSize CheckBoxBinder::Surroundings() const {
 SwatchBinder::SwatchBinder(const BinderPlace& place)
     : ControlBinder(place), button_(new SwatchButton(place.parent)) {
   QObject::connect(button_, &QAbstractButton::clicked, button_,
-                   [this] { Run([this](DialogSession& session) { session.Click(id()); }); });
+                   [this] { Run([this](ControlSession& session) { session.Click(id()); }); });
 }
 
 void SwatchBinder::ShowState(const ControlView& view) { button_->ShowSwatch(view.swatch); }

@@ -10,6 +10,7 @@
 #include <QMessageBox>
 #include <QPushButton>
 
+#include "front_ends/qt/chooser_panel.h"
 #include "front_ends/qt/file_columns.h"
 #include "front_ends/qt/refusal.h"
 #include "front_ends/qt/swatch_button.h"
@@ -36,7 +37,21 @@ class FileChooser : public QFileDialog {
   FileChooser(QWidget* owner, const FileChooserRequest& request)
       : QFileDialog(owner), request_(request) {}
 
+  // To be called once the chooser is what it will be.
+  void AddPanel() {
+    if (request_.panel != nullptr) panel_ = std::make_unique<ChooserPanel>(*request_.panel, *this);
+  }
+
   void accept() override {
+    try {
+      TakeName();
+    } catch (...) {
+      reject();
+    }
+  }
+
+ private:
+  void TakeName() {
     const QStringList chosen = selectedFiles();
     const QFileInfo typed(chosen.isEmpty() ? QString() : chosen.front());
     if (typed.isDir()) return EnterFolder();
@@ -44,7 +59,6 @@ class FileChooser : public QFileDialog {
     Choose(typed.exists() ? typed : MeantBy(typed));
   }
 
- private:
   void EnterFolder() {
     QFileDialog::accept();
     ShowName(QString());
@@ -93,10 +107,13 @@ class FileChooser : public QFileDialog {
   // selectFile leaves the name field alone while it has the focus.
   void ShowName(const QString& name) {
     auto* const field = findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
-    if (field != nullptr) field->setText(name);
+    if (field == nullptr) return;
+    if (panel_) return panel_->Quietly([&] { field->setText(name); });
+    field->setText(name);
   }
 
   const FileChooserRequest& request_;
+  std::unique_ptr<ChooserPanel> panel_;
 };
 
 QStringList NameFilters(const FileChooserRequest& request) {
@@ -135,6 +152,7 @@ std::optional<std::string> AskFile(QWidget* owner, const FileChooserRequest& req
   dialog.setIconProvider(&kinds);
   FitFileColumns(dialog);
   StartAt(dialog, FromUtf8(request.start_name));
+  dialog.AddPanel();
   if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return std::nullopt;
   return ToUtf8(dialog.selectedFiles().front());
 }

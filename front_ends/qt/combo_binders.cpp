@@ -46,7 +46,7 @@ QComboBox* MakeCombo(QWidget* parent) {
 DropDownBinder::DropDownBinder(const BinderPlace& place)
     : ControlBinder(place), combo_(MakeCombo(place.parent)), line_(combo_->lineEdit(), place.id) {
   QObject::connect(combo_, &QComboBox::activated, combo_, [this](int row) {
-    Run([this, row](DialogSession& session) { session.Pick(id(), row); });
+    Run([this, row](ControlSession& session) { session.Pick(id(), row); });
     combo_->lineEdit()->setCursorPosition(0);
   });
   QObject::connect(combo_->lineEdit(), &QLineEdit::textEdited, combo_, [this] {

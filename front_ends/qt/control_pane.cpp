@@ -1,5 +1,7 @@
 #include "front_ends/qt/control_pane.h"
 
+#include <algorithm>
+
 #include "front_ends/qt/make_binder.h"
 #include "front_ends/qt/tab_binder.h"
 #include "front_ends/qt/widget_text.h"
@@ -27,7 +29,7 @@ bool TakesCaption(ControlKind kind) {
 
 }  // namespace
 
-ControlPane::ControlPane(DialogSession& session, PaneFrame& frame, QWidget* parent)
+ControlPane::ControlPane(ControlSession& session, PaneFrame& frame, QWidget* parent)
     : QWidget(parent), session_(session), frame_(frame), filter_(*this) {}
 
 void ControlPane::Build() {
@@ -44,7 +46,7 @@ void ControlPane::AddControl(int index) {
     radio_group_ = new QButtonGroup(this);
   }
   if (view.kind == ControlKind::kTab) {
-    binders_.push_back(std::make_unique<TabBinder>(place, session_, frame_));
+    binders_.push_back(std::make_unique<TabBinder>(place, frame_));
   } else {
     binders_.push_back(MakeBinder(place, view.kind, radio_group_));
   }
@@ -82,6 +84,15 @@ DialogScale ControlPane::Grow(DialogScale scale) const {
   }
   if (wider) scale.x *= kGrowthStep;
   if (higher) scale.y *= kGrowthStep;
+  return scale;
+}
+
+DialogScale ControlPane::GrowUpTo(DialogScale scale, const DialogScale& most) const {
+  for (DialogScale grown = Grow(scale);
+       (grown.x > scale.x && grown.x < most.x) || (grown.y > scale.y && grown.y < most.y);
+       grown = Grow(scale)) {
+    scale = {std::min(grown.x, most.x), std::min(grown.y, most.y)};
+  }
   return scale;
 }
 

@@ -17,7 +17,7 @@ namespace orreryui {
 class ControlPane : public QWidget, public DialogWindow, private GestureRunner {
  public:
   // Session and frame outlive the pane.
-  ControlPane(DialogSession& session, PaneFrame& frame, QWidget* parent);
+  ControlPane(ControlSession& session, PaneFrame& frame, QWidget* parent);
 
   // Makes the widgets. The session has been started.
   void Build();
@@ -25,6 +25,9 @@ class ControlPane : public QWidget, public DialogWindow, private GestureRunner {
   // As NeededSize of the controls: the scale, at least `scale`, that one more step towards fitting
   // all texts takes. The same scale if all fit.
   DialogScale Grow(DialogScale scale) const;
+
+  // Grows from `scale` until all texts fit, or to `most`.
+  DialogScale GrowUpTo(DialogScale scale, const DialogScale& most) const;
 
   void Arrange(const DialogScale& scale);
 
@@ -51,7 +54,7 @@ class ControlPane : public QWidget, public DialogWindow, private GestureRunner {
   void ShowControl(int index);
   void ShowAfterGesture(int index);
 
-  DialogSession& session_;
+  ControlSession& session_;
   PaneFrame& frame_;
   InputFilter filter_;
   std::vector<std::unique_ptr<ControlBinder>> binders_;  // by index

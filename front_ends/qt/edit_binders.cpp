@@ -44,7 +44,7 @@ void TypedLine::Show(const QString& text) {
 void TypedLine::Report(const std::function<void(const GestureRunner::Gesture&)>& run) {
   TypedText typed{ToUtf8(edit_->text()), {}};
   typing_ = true;
-  run([&](DialogSession& session) { typed = session.Type(id_, typed.text); });
+  run([&](ControlSession& session) { typed = session.Type(id_, typed.text); });
   typing_ = false;
 
   const QString text = FromUtf8(typed.text);
@@ -79,7 +79,7 @@ TextEditBinder::TextEditBinder(const BinderPlace& place)
   edit_->setWordWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
   QObject::connect(edit_, &QPlainTextEdit::textChanged, edit_, [this] { Report(); });
   edit_->on_scroll = [this](int line) {
-    Run([this, line](DialogSession& session) { session.Scroll(id(), line); });
+    Run([this, line](ControlSession& session) { session.Scroll(id(), line); });
   };
 }
 
@@ -98,7 +98,7 @@ void TextEditBinder::Report() {
   if (typing_ || text == known_) return;
   typing_ = true;
   TypedText typed{ToLines(text), {}};
-  Run([&](DialogSession& session) { typed = session.Type(id(), typed.text); });
+  Run([&](ControlSession& session) { typed = session.Type(id(), typed.text); });
   known_ = FromLines(typed.text);
   if (known_ != text) Replace(known_);
   typing_ = false;

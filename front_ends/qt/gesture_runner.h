@@ -10,7 +10,7 @@ namespace orreryui {
 
 class GestureRunner {
  public:
-  using Gesture = std::function<void(DialogSession&)>;
+  using Gesture = std::function<void(ControlSession&)>;
 
   virtual ~GestureRunner() = default;
 

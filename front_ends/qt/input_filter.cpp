@@ -61,7 +61,7 @@ void InputFilter::ReportFocus(const Watched& widget, const QFocusEvent& focus) {
   }
   const int id = widget.id;
   if (id == kNoControlId) return;
-  runner_.Run(widget.index, [id](DialogSession& session) { session.Focus(id); });
+  runner_.Run(widget.index, [id](ControlSession& session) { session.Focus(id); });
 }
 
 }  // namespace orreryui

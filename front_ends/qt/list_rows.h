@@ -25,10 +25,10 @@ template <class View>
 void ReportPicks(PickingView<View>* view, std::function<void(const GestureRunner::Gesture&)> run,
                  int id) {
   view->on_pick = [run, id](int row) {
-    run([=](DialogSession& session) { session.Pick(id, row); });
+    run([=](ControlSession& session) { session.Pick(id, row); });
   };
-  view->on_double_click = [run, id](int row, int column) {
-    run([=](DialogSession& session) { session.DoubleClick(id, row, column); });
+  view->on_double_click = [run, id](int row) {
+    run([=](ControlSession& session) { session.DoubleClick(id, row); });
   };
 }
 

@@ -2,6 +2,8 @@
 #ifndef ORRERYUI_FRONT_ENDS_QT_PANE_FRAME_H_
 #define ORRERYUI_FRONT_ENDS_QT_PANE_FRAME_H_
 
+#include "platform/front_end.h"
+
 namespace orreryui {
 
 class PaneFrame {
@@ -9,6 +11,10 @@ class PaneFrame {
   virtual ~PaneFrame() = default;
 
   virtual bool Ended() const = 0;
+
+  // The page over a tab, or null.
+  virtual ControlSession* Page(int tab_control, int tab) = 0;
+
   virtual void GestureDone() = 0;  // to be called after each gesture on a pane
   virtual void PressEnter() = 0;
   virtual void PressEscape() = 0;

@@ -22,7 +22,7 @@ class PickingView : public View {
   using View::View;
 
   std::function<void(int row)> on_pick;
-  std::function<void(int row, int column)> on_double_click;
+  std::function<void(int row)> on_double_click;
 
   // Makes the keys that move through a list work in `edit`, which keeps the focus.
   void TakeArrowKeysOf(QWidget* edit) { edit->installEventFilter(this); }
@@ -58,7 +58,7 @@ class PickingView : public View {
     const QModelIndex index = this->indexAt(event->pos());
     View::mouseDoubleClickEvent(event);
     pressed_ = false;
-    on_double_click(index.row(), index.column());
+    on_double_click(index.row());
   }
 
   void mouseReleaseEvent(QMouseEvent* event) override {

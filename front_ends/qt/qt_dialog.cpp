@@ -96,21 +96,13 @@ void QtDialog::LimitGrowth() {
 
 void QtDialog::Arrange() {
   const DialogLayout layout = session_.Layout();
-  GrowToFit();
+  scale_ = pane_->GrowUpTo(scale_, most_);
   const QPoint corner = scale_.ToPixels(layout.width, layout.height);
   const QSize size(corner.x(), corner.y());
   pane_->setFixedSize(size);
   pane_->Arrange(scale_);
   FitIntoScreen(size);
   OrderTabs();
-}
-
-void QtDialog::GrowToFit() {
-  for (DialogScale grown = pane_->Grow(scale_);
-       (grown.x > scale_.x && grown.x < most_.x) || (grown.y > scale_.y && grown.y < most_.y);
-       grown = pane_->Grow(scale_)) {
-    scale_ = {std::min(grown.x, most_.x), std::min(grown.y, most_.y)};
-  }
 }
 
 void QtDialog::FitIntoScreen(QSize size) {
@@ -231,12 +223,16 @@ void QtDialog::GestureDone() {
   }
 }
 
-void QtDialog::Run(void (DialogSession::*gesture)()) {
+void QtDialog::Run(const std::function<void(DialogSession&)>& gesture) {
   if (Ended()) return;
   Guarded([&] {
-    (session_.*gesture)();
+    gesture(session_);
     GestureDone();
   });
+}
+
+void QtDialog::Paint() {
+  Run([](DialogSession& session) { session.Paint(); });
 }
 
 void QtDialog::Abandon() {

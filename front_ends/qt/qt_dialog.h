@@ -6,6 +6,7 @@
 #include <QEventLoop>
 #include <QScrollArea>
 #include <QWindow>
+#include <functional>
 #include <memory>
 
 #include "front_ends/qt/control_pane.h"
@@ -35,22 +36,28 @@ class QtDialog : public QDialog, public DialogWindow, private PaneFrame {
   void closeEvent(QCloseEvent* event) override;
 
  private:
+  ControlSession* Page(int tab_control, int tab) override {
+    return session_.Page(tab_control, tab);
+  }
   bool Ended() const override { return session_.Ended(); }
   void GestureDone() override;
-  void PressEnter() override { Run(&DialogSession::Enter); }
-  void PressEscape() override { Run(&DialogSession::Escape); }
+  void PressEnter() override {
+    Run([](DialogSession& session) { session.Enter(); });
+  }
+  void PressEscape() override {
+    Run([](DialogSession& session) { session.Escape(); });
+  }
   void ContentsChanged() override;
   void FocusChanged() override;
   void Abandon() override;
 
   // Runs a gesture that no pane has.
-  void Run(void (DialogSession::*gesture)());
+  void Run(const std::function<void(DialogSession&)>& gesture);
 
   void Build();
   void StandBefore(QWindow* host);
   void Arrange();
   void LimitGrowth();
-  void GrowToFit();
   void FitIntoScreen(QSize size);
   void OrderTabs();
   void ShowFocus();
@@ -59,7 +66,7 @@ class QtDialog : public QDialog, public DialogWindow, private PaneFrame {
   const QWindow* HostWindow() const;  // that the outermost dialog stands before, or null
   QRect AvailableArea() const;
   QSize Room() const;  // for a dialog inside a frame in that area
-  void Paint() { Run(&DialogSession::Paint); }
+  void Paint();
 
   DialogSession& session_;
   std::unique_ptr<QWindow> foreign_host_;  // the host's window where that isn't one of Qt's

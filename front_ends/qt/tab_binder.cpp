@@ -6,9 +6,8 @@
 
 namespace orreryui {
 
-TabBinder::TabBinder(const BinderPlace& place, DialogSession& session, PaneFrame& frame)
+TabBinder::TabBinder(const BinderPlace& place, PaneFrame& frame)
     : ControlBinder(place),
-      session_(session),
       frame_(frame),
       parent_(place.parent),
       bar_(new QTabBar(place.parent)),
@@ -20,7 +19,7 @@ TabBinder::TabBinder(const BinderPlace& place, DialogSession& session, PaneFrame
   bar_->setExpanding(false);
   bar_->setUsesScrollButtons(false);
   QObject::connect(bar_, &QTabBar::currentChanged, bar_, [this](int tab) {
-    Run([this, tab](DialogSession& session_now) { session_now.Pick(id(), tab); });
+    Run([this, tab](ControlSession& session) { session.Pick(id(), tab); });
   });
 }
 
@@ -42,7 +41,7 @@ bool TabBinder::AddPages(int tabs) {
   bool added = false;
   for (int tab = 0; tab < tabs; ++tab) {
     if (pages_.count(tab) != 0) continue;
-    DialogSession* session = session_.Page(id(), tab);
+    ControlSession* session = frame_.Page(id(), tab);
     if (session == nullptr) continue;
     auto* page = new ControlPane(*session, frame_, parent_);
     page->setObjectName(QString::number(session->Layout().number));

@@ -15,7 +15,7 @@ namespace orreryui {
 // selected tab is shown. Pages are children of the pane that the bar stands on.
 class TabBinder : public ControlBinder {
  public:
-  TabBinder(const BinderPlace& place, DialogSession& session, PaneFrame& frame);
+  TabBinder(const BinderPlace& place, PaneFrame& frame);
   QWidget* widget() const override { return bar_; }
   QSize Needed(const ControlView& view, QSize offered) const override;
   void Arrange(const ControlView& view, const DialogScale& scale) override;
@@ -31,7 +31,6 @@ class TabBinder : public ControlBinder {
   bool AddPages(int tabs);
   void ShowSelectedPage(int tab);
 
-  DialogSession& session_;
   PaneFrame& frame_;
   QWidget* parent_;
   QTabBar* bar_;

@@ -15,7 +15,9 @@ class NoWindow : public DialogWindow {
   void RefreshLayout() override {}
 };
 
-std::optional<ControlView> FindControl(const DialogSession& session, int id) {
+constexpr char kNoDialog[] = "no dialog is innermost";
+
+std::optional<ControlView> FindControl(const ControlSession& session, int id) {
   for (int index = 0; index < session.ControlCount(); ++index) {
     ControlView view = session.Control(index);
     if (view.id == id) return view;
@@ -57,7 +59,7 @@ ScriptFrontEnd& ScriptFrontEnd::AddAction(const std::string& description, Action
 }
 
 ScriptFrontEnd& ScriptFrontEnd::AddGesture(const std::string& description, int id, Action gesture) {
-  auto action = [id, gesture = std::move(gesture)](DialogSession& session) -> std::string {
+  auto action = [id, gesture = std::move(gesture)](ControlSession& session) -> std::string {
     const std::optional<ControlView> view = FindControl(session, id);
     if (!view) return "no such control";
     if (!view->visible) return "the control is hidden";
@@ -69,7 +71,7 @@ ScriptFrontEnd& ScriptFrontEnd::AddGesture(const std::string& description, int i
 
 ScriptFrontEnd& ScriptFrontEnd::AddLook(const std::string& description, int id,
                                         std::function<std::string(const ControlView&)> look) {
-  auto action = [id, look = std::move(look)](DialogSession& session) -> std::string {
+  auto action = [id, look = std::move(look)](ControlSession& session) -> std::string {
     const std::optional<ControlView> view = FindControl(session, id);
     return view ? look(*view) : "no such control";
   };
@@ -83,28 +85,28 @@ ScriptFrontEnd& ScriptFrontEnd::OpensDialog(int number) {
 }
 
 ScriptFrontEnd& ScriptFrontEnd::Focus(int id) {
-  return AddGesture("focus", id, [id](DialogSession& session) {
+  return AddGesture("focus", id, [id](ControlSession& session) {
     session.Focus(id);
     return "";
   });
 }
 
 ScriptFrontEnd& ScriptFrontEnd::Click(int id) {
-  return AddGesture("click", id, [id](DialogSession& session) {
+  return AddGesture("click", id, [id](ControlSession& session) {
     session.Click(id);
     return "";
   });
 }
 
 ScriptFrontEnd& ScriptFrontEnd::Type(int id, const std::string& text, const std::string& refused) {
-  return AddGesture("type into", id, [=](DialogSession& session) -> std::string {
+  return AddGesture("type into", id, [=](ControlSession& session) -> std::string {
     const TypedText typed = session.Type(id, text);
     return typed.refused == refused ? "" : "refuses \"" + typed.refused + "\"";
   });
 }
 
 ScriptFrontEnd& ScriptFrontEnd::Pick(int id, int row) {
-  return AddGesture("pick in", id, [id, row](DialogSession& session) -> std::string {
+  return AddGesture("pick in", id, [id, row](ControlSession& session) -> std::string {
     const int rows = static_cast<int>(FindControl(session, id)->rows.size());
     if (row < 0 || row >= rows) return "no row " + std::to_string(row);
     session.Pick(id, row);
@@ -112,52 +114,56 @@ ScriptFrontEnd& ScriptFrontEnd::Pick(int id, int row) {
   });
 }
 
-ScriptFrontEnd& ScriptFrontEnd::DoubleClick(int id, int row, int column) {
-  return AddGesture("double click in", id, [=](DialogSession& session) -> std::string {
+ScriptFrontEnd& ScriptFrontEnd::DoubleClick(int id, int row) {
+  return AddGesture("double click in", id, [=](ControlSession& session) -> std::string {
     const int rows = static_cast<int>(FindControl(session, id)->rows.size());
     if (row < 0 || row >= rows) return "no row " + std::to_string(row);
-    session.DoubleClick(id, row, column);
+    session.DoubleClick(id, row);
     return "";
   });
 }
 
 ScriptFrontEnd& ScriptFrontEnd::Enter() {
-  return AddAction("Enter", [](DialogSession& session) {
-    session.Enter();
+  return AddAction("Enter", [this](ControlSession&) -> std::string {
+    if (!innermost_.dialog) return kNoDialog;
+    innermost_.dialog->Enter();
     return "";
   });
 }
 
 ScriptFrontEnd& ScriptFrontEnd::Escape() {
-  return AddAction("Esc", [](DialogSession& session) {
-    session.Escape();
+  return AddAction("Esc", [this](ControlSession&) -> std::string {
+    if (!innermost_.dialog) return kNoDialog;
+    innermost_.dialog->Escape();
     return "";
   });
 }
 
 ScriptFrontEnd& ScriptFrontEnd::Paint() {
-  return AddAction("paint", [](DialogSession& session) {
+  return AddAction("paint", [](ControlSession& session) {
     session.Paint();
     return "";
   });
 }
 
 ScriptFrontEnd& ScriptFrontEnd::OnPage(int tab_control, int tab) {
-  return AddAction("go to a page", [=, this](DialogSession& session) -> std::string {
-    page_ = session.Page(tab_control, tab);
-    return page_ ? "" : "no page over tab " + std::to_string(tab);
+  return AddAction("go to a page", [=, this](ControlSession&) -> std::string {
+    if (!innermost_.dialog) return kNoDialog;
+    innermost_.page = innermost_.dialog->Page(tab_control, tab);
+    return innermost_.page ? "" : "no page over tab " + std::to_string(tab);
   });
 }
 
 ScriptFrontEnd& ScriptFrontEnd::OnSheet() {
-  steps_.push_back(
-      {.description = "go to the sheet", .window = {}, .action = {}, .path = {}, .colour = {}});
-  return *this;
+  return AddAction("go to the sheet", [this](ControlSession&) {
+    innermost_.page = nullptr;
+    return "";
+  });
 }
 
 ScriptFrontEnd& ScriptFrontEnd::ShowsTitle(const std::string& title) {
   return AddAction(
-      "title", [title](DialogSession& session) { return Differs(session.Layout().title, title); });
+      "title", [title](ControlSession& session) { return Differs(session.Layout().title, title); });
 }
 
 ScriptFrontEnd& ScriptFrontEnd::Shows(int id, const std::string& text) {
@@ -226,6 +232,63 @@ ScriptFrontEnd& ScriptFrontEnd::Beeps() {
   return AddWindow(std::move(step));
 }
 
+ScriptFrontEnd& ScriptFrontEnd::OpensPanel(int number) {
+  Step step;
+  step.window = "file chooser with panel " + std::to_string(number);
+  return AddWindow(std::move(step));
+}
+
+ScriptFrontEnd& ScriptFrontEnd::AddChooserAction(const std::string& description,
+                                                 std::function<std::string(Chooser&)> action) {
+  return AddAction(description, [this, action = std::move(action)](ControlSession&) -> std::string {
+    return innermost_.chooser ? action(*innermost_.chooser) : "no chooser is open";
+  });
+}
+
+ScriptFrontEnd& ScriptFrontEnd::SelectsFile(const std::string& path) {
+  return AddChooserAction("select " + path, [path](Chooser& chooser) {
+    chooser.name = path;
+    chooser.panel.SelectFile(path);
+    return "";
+  });
+}
+
+ScriptFrontEnd& ScriptFrontEnd::ChangesFolder() {
+  return AddChooserAction("change the folder", [](Chooser& chooser) {
+    chooser.panel.ChangeFolder();
+    return "";
+  });
+}
+
+ScriptFrontEnd& ScriptFrontEnd::TypesName(const std::string& path) {
+  return AddChooserAction("type the name " + path, [path](Chooser& chooser) {
+    chooser.name = path;
+    return "";
+  });
+}
+
+ScriptFrontEnd& ScriptFrontEnd::ShowsAcceptLabel(const std::string& label) {
+  return AddChooserAction("label of the accepting button", [label](Chooser& chooser) {
+    return Differs(chooser.panel.AcceptLabel(), label);
+  });
+}
+
+ScriptFrontEnd& ScriptFrontEnd::Accepts() {
+  return AddChooserAction("accept", [](Chooser& chooser) -> std::string {
+    if (chooser.name.empty()) return "no file is selected or named";
+    chooser.result = chooser.name;
+    chooser.done = true;
+    return "";
+  });
+}
+
+ScriptFrontEnd& ScriptFrontEnd::GivesUp() {
+  return AddChooserAction("give up", [](Chooser& chooser) {
+    chooser.done = true;
+    return "";
+  });
+}
+
 std::string ScriptFrontEnd::Failures() const {
   std::vector<std::string> all = failures_;
   for (const Step& step : steps_) all.push_back("not reached: " + step.description);
@@ -249,28 +312,24 @@ std::optional<ScriptFrontEnd::Step> ScriptFrontEnd::TakeWindow(const std::string
 bool ScriptFrontEnd::RunDialog(DialogSession& session) {
   const std::string window = "dialog " + std::to_string(session.Layout().number);
   if (!TakeWindow(window)) return false;
-  DialogSession* const outer_page = std::exchange(page_, nullptr);
+  const Innermost outer = std::exchange(innermost_, {.dialog = &session});
   NoWindow no_window;
   session.Start(no_window);
   if (!session.Ended()) session.Paint();
   while (!session.Ended() && failures_.empty()) PlayStep(session);
   if (!session.Ended()) session.Escape();
-  page_ = outer_page;
+  innermost_ = outer;
   return true;
 }
 
-void ScriptFrontEnd::PlayStep(DialogSession& session) {
+void ScriptFrontEnd::PlayStep(ControlSession& session) {
   if (steps_.empty() || !steps_.front().window.empty()) {
     const std::string next = steps_.empty() ? "" : " before " + steps_.front().description;
     return Fail("dialog " + std::to_string(session.Layout().number) + " was left open" + next);
   }
   const Step step = std::move(steps_.front());
   steps_.pop_front();
-  if (!step.action) {
-    page_ = nullptr;
-    return;
-  }
-  const std::string failure = step.action(page_ ? *page_ : session);
+  const std::string failure = step.action(innermost_.page ? *innermost_.page : session);
   if (!failure.empty()) Fail(step.description + ": " + failure);
 }
 
@@ -281,8 +340,22 @@ MessageBoxAnswer ScriptFrontEnd::ShowMessage(const std::string& text) {
 
 std::optional<std::string> ScriptFrontEnd::ChooseFile(const FileChooserRequest& request) {
   last_file_request_ = request;
+  if (request.panel) return RunPanel(*request.panel);
   const std::optional<Step> step = TakeWindow("file chooser");
   return step ? step->path : std::nullopt;
+}
+
+std::optional<std::string> ScriptFrontEnd::RunPanel(PanelSession& panel) {
+  const std::string window = "file chooser with panel " + std::to_string(panel.Layout().number);
+  if (!TakeWindow(window)) return std::nullopt;
+  Chooser chooser{panel, ""};
+  const Innermost outer = std::exchange(innermost_, {.chooser = &chooser});
+  NoWindow no_window;
+  panel.Start(no_window);
+  panel.Paint();
+  while (!panel.Ended() && !chooser.done && failures_.empty()) PlayStep(panel);
+  innermost_ = outer;
+  return chooser.result;
 }
 
 std::optional<std::uint32_t> ScriptFrontEnd::ChooseColour(std::uint32_t start) {

@@ -29,8 +29,9 @@ namespace orreryui {
 
 class ScriptFrontEnd : public FrontEnd {
  public:
-  // What a step may do to the dialog that is open. A text that isn't empty is a failure.
-  using Action = std::function<std::string(DialogSession&)>;
+  // What a step may do to the dialog, page or panel that is open. A text that isn't empty is a
+  // failure.
+  using Action = std::function<std::string(ControlSession&)>;
 
   ScriptFrontEnd() = default;
 
@@ -39,7 +40,7 @@ class ScriptFrontEnd : public FrontEnd {
   ScriptFrontEnd& Click(int id);
   ScriptFrontEnd& Type(int id, const std::string& text, const std::string& refused = "");
   ScriptFrontEnd& Pick(int id, int row);
-  ScriptFrontEnd& DoubleClick(int id, int row, int column = 0);
+  ScriptFrontEnd& DoubleClick(int id, int row);
   ScriptFrontEnd& Enter();
   ScriptFrontEnd& Escape();
   ScriptFrontEnd& Paint();
@@ -63,6 +64,17 @@ class ScriptFrontEnd : public FrontEnd {
   ScriptFrontEnd& ChoosesFile(std::optional<std::string> path);
   ScriptFrontEnd& ChoosesColour(std::uint32_t start, std::optional<std::uint32_t> colour);
   ScriptFrontEnd& Beeps();
+
+  // A file chooser with the panel of this template. The steps behind it, up to Accepts or GivesUp,
+  // are gestures and looks on the panel, and what the user does in the chooser itself. Paths are
+  // full ones.
+  ScriptFrontEnd& OpensPanel(int number);
+  ScriptFrontEnd& SelectsFile(const std::string& path);  // the row of a file
+  ScriptFrontEnd& ChangesFolder();
+  ScriptFrontEnd& TypesName(const std::string& path);
+  ScriptFrontEnd& ShowsAcceptLabel(const std::string& label);
+  ScriptFrontEnd& Accepts();  // the file that was selected, or whose name was typed, last
+  ScriptFrontEnd& GivesUp();
 
   // All that went wrong so far, and the steps that were not reached, one a line.
   std::string Failures() const;
@@ -90,19 +102,37 @@ class ScriptFrontEnd : public FrontEnd {
 
   ScriptFrontEnd& AddWindow(Step step);
   ScriptFrontEnd& AddAction(const std::string& description, Action action);
-  ScriptFrontEnd& AddGesture(const std::string& description, int id,
-                             std::function<std::string(DialogSession&)> gesture);
+  ScriptFrontEnd& AddGesture(const std::string& description, int id, Action gesture);
   ScriptFrontEnd& AddLook(const std::string& description, int id,
                           std::function<std::string(const ControlView&)> look);
 
   void Fail(const std::string& failure);
-  void PlayStep(DialogSession& session);
+  void PlayStep(ControlSession& session);
+  std::optional<std::string> RunPanel(PanelSession& panel);
   std::optional<Step> TakeWindow(const std::string& window);
 
   std::deque<Step> steps_;
   std::vector<std::string> failures_;
   FileChooserRequest last_file_request_;
-  DialogSession* page_ = nullptr;  // where OnPage sent the steps to
+
+  // A file chooser that is open, with a panel.
+  struct Chooser {
+    PanelSession& panel;
+    std::string name;  // of the file
+    bool done = false;
+    std::optional<std::string> result = {};
+  };
+  ScriptFrontEnd& AddChooserAction(const std::string& description,
+                                   std::function<std::string(Chooser&)> action);
+
+  // What takes the steps: the innermost dialog, or the page that OnPage has sent them to, or the
+  // chooser.
+  struct Innermost {
+    DialogSession* dialog = nullptr;
+    ControlSession* page = nullptr;
+    Chooser* chooser = nullptr;
+  };
+  Innermost innermost_;
 };
 
 }  // namespace orreryui

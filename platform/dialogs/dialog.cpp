@@ -2,8 +2,8 @@
 
 #include <utility>
 
-#include "platform/dialogs/dialog_run.h"
 #include "platform/dialogs/front_end_loader.h"
+#include "platform/dialogs/root_run.h"
 
 namespace orreryui {
 namespace {
@@ -30,14 +30,15 @@ CDialog::~CDialog() = default;
 int CDialog::DoModal() {
   FrontEnd* const front_end = CurrentFrontEnd();
   if (!front_end) return -1;
-  DialogRun::RefreshInnermost();
-  DialogRun run(*this);
+  ModalRun::RefreshInnermost();
+  RootRun run(*this);
   return front_end->RunDialog(run) ? run.Result() : -1;
 }
 
 void CDialog::CreatePage(CDialog& sheet, int tab_control, int tab) {
-  if (!sheet.run_) return;
-  page_run_ = std::make_unique<DialogRun>(*this, *sheet.run_, tab_control, tab);
+  auto* const root = dynamic_cast<RootRun*>(sheet.run_);
+  if (!root) return;
+  page_run_ = std::make_unique<PageRun>(*this, *root, tab_control, tab);
   page_run_->Initialise();
 }
 

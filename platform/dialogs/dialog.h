@@ -32,7 +32,7 @@
 namespace orreryui {
 
 class CDialog;
-class DialogRun;
+class ControlRun;
 
 // One pass of data between the edit boxes of a dialog and its fields.
 class DataExchange {
@@ -110,23 +110,22 @@ class CDialog {
   // Report lists. Widths are in pixels of a screen at scale 1.
   void InsertColumn(int id, const char* title, int width);
   void SetItemText(int id, int row, int column, const char* text);
-  int ClickedColumn() const { return clicked_column_; }  // of the last double click
 
   // Owner-drawn buttons. Colours are 0x00BBGGRR; no colour is an empty swatch or no frame.
   void SetSwatch(int id, std::optional<std::uint32_t> colour);
   void FrameSwatch(int id, std::optional<std::uint32_t> colour);
 
  private:
-  friend class DialogRun;
+  friend class ControlRun;
+  friend class CFileDialog;
 
   const Control* Find(int id) const;
   Control* Change(int id);
 
   const DialogTemplate& template_;
   DialogModel model_;
-  std::unique_ptr<DialogRun> page_run_;  // of a page, as long as it stands
-  DialogRun* run_ = nullptr;             // while the dialog runs
-  int clicked_column_ = 0;
+  std::unique_ptr<ControlRun> page_run_;  // of a page, as long as it stands
+  ControlRun* run_ = nullptr;             // while the dialog runs
 };
 
 // A dialog whose class D has a message map: a static member function Messages() that returns a

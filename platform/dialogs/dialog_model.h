@@ -1,5 +1,5 @@
 // The state of a dialog's controls: what each shows, holds and allows. The model knows no rule of
-// behaviour; DialogRun applies the user's gestures to it, CDialog the operations of the handlers.
+// behaviour; ControlRun applies the user's gestures to it, CDialog the operations of the handlers.
 // It remembers which controls changed until somebody collects them for the screen.
 #ifndef ORRERYUI_PLATFORM_DIALOGS_DIALOG_MODEL_H_
 #define ORRERYUI_PLATFORM_DIALOGS_DIALOG_MODEL_H_

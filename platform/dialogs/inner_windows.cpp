@@ -3,8 +3,9 @@
 #include <chrono>
 #include <thread>
 
-#include "platform/dialogs/dialog_run.h"
+#include "platform/dialogs/dialog_template.h"
 #include "platform/dialogs/front_end_loader.h"
+#include "platform/dialogs/modal_run.h"
 #include "platform/strings/code_page_932.h"
 
 namespace orreryui {
@@ -12,7 +13,7 @@ namespace {
 
 // The front end, with all that the handler has changed so far on the screen.
 FrontEnd* RefreshedFrontEnd() {
-  DialogRun::RefreshInnermost();
+  ModalRun::RefreshInnermost();
   return CurrentFrontEnd();
 }
 

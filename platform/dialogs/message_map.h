@@ -9,7 +9,7 @@ enum class Event {
   kFocusLost,        // the focus went to another control
   kChange,           // the user changed the text of an edit or of a combo box's edit field
   kSelectionChange,  // the user picked a row
-  kDoubleClick,      // on a row; CDialog::ClickedColumn tells where
+  kDoubleClick,      // on a row
   kTabChanging,      // the tab is about to change; the old one is still selected
   kTabChanged,
 };

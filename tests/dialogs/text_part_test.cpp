@@ -46,9 +46,9 @@ class Box : public CDialog {
  public:
   explicit Box(const std::string& text) : CDialog(kTemplate), text_(FromUtf8(text).bytes.c_str()) {}
 
-  void Play(const std::function<void(DialogSession&)>& steps) {
+  void Play(const std::function<void(ControlSession&)>& steps) {
     ScriptFrontEnd script;
-    script.OpensDialog(1).Does([&](DialogSession& session) {
+    script.OpensDialog(1).Does([&](ControlSession& session) {
       steps(session);
       return "";
     });
@@ -66,10 +66,10 @@ class Box : public CDialog {
   CString text_;
 };
 
-ControlView Look(const DialogSession& session) { return session.Control(1); }
+ControlView Look(const ControlSession& session) { return session.Control(1); }
 
 TEST(TextPart, ScrollingShowsTheLinesAroundAndMovesNoFocus) {
-  Box(Lines(0, kLines)).Play([](DialogSession& session) {
+  Box(Lines(0, kLines)).Play([](ControlSession& session) {
     EXPECT_EQ(Look(session).text, Part(0, kLinesOfPart));
     const int half = kLinesOfPart / 2;
     const int last = kLines + 1 - kLinesOfPart;
@@ -93,7 +93,7 @@ TEST(TextPart, ScrollingShowsTheLinesAroundAndMovesNoFocus) {
 
 TEST(TextPart, TypingChangesThePartAndNothingElse) {
   Box box(Lines(0, kLines));
-  box.Play([](DialogSession& session) {
+  box.Play([](ControlSession& session) {
     session.Scroll(kBox, 50000);
     const TextPart before = Look(session).part;
     const std::string part = Look(session).text;
@@ -101,7 +101,7 @@ TEST(TextPart, TypingChangesThePartAndNothingElse) {
     EXPECT_EQ(Look(session).text, "新\r\n" + part + "\r\n行");
     EXPECT_EQ(Numbers(Look(session).part),
               Numbers({before.first, before.count + 2, before.all + 2}));
-    session.Enter();
+    dynamic_cast<DialogSession&>(session).Enter();
     EXPECT_EQ(Look(session).text, "新\r\n" + part + "\r\n行\r\n");
     session.Scroll(kBox, 50000);
     EXPECT_EQ(Look(session).part.count, kLinesOfPart);
@@ -129,12 +129,12 @@ TEST(TextPart, ATextIsWholeUnlessItIsLongInBytesAndInLines) {
       {megabyte + "\n" + megabyte, {0, 2, 2}},
   };
   for (const Case& one : cases) {
-    Box(one.text).Play([&](DialogSession& session) {
+    Box(one.text).Play([&](ControlSession& session) {
       EXPECT_TRUE(Look(session).text == one.text);
       EXPECT_EQ(Look(session).part.all, one.part.all);
     });
   }
-  Box("\n\r\n" + empty_lines).Play([&](DialogSession& session) {
+  Box("\n\r\n" + empty_lines).Play([&](ControlSession& session) {
     EXPECT_EQ(Numbers(Look(session).part), Numbers({0, kLinesOfPart, (1 << 20) + 3}));
     EXPECT_EQ(Look(session).text, "\n\r\n" + std::string(kLinesOfPart - 3, '\n'));
     session.Scroll(kBox, 1 << 19);

@@ -70,7 +70,7 @@ TEST_F(AlbumRegistTest, EachAdditionIsInTheFileAtOnce) {
   Fill(script, "m1", "", "t.txt", "表.JPG").Click(117).Shows(1045, "3").Shows(105, "35.5");
   Fill(script, "m 1", "m2", "", "p.gif").Click(117).Shows(1045, "4");
   std::optional<std::string> before_the_end;
-  script.Does([&](DialogSession&) -> std::string {
+  script.Does([&](ControlSession&) -> std::string {
     before_the_end = folder.Read(kAlbum);
     return "";
   });
@@ -182,7 +182,7 @@ TEST_F(AlbumRegistTest, AnAdditionThatCannotBeWrittenCanBeTriedAgain) {
     ScriptFrontEnd visit;
     visit.OpensDialog(148).Type(101, "p");
     for (int i = 0; i < 2; ++i) Fill(visit, "m", "n", "t", "").Click(117);
-    Fill(visit, "m", "n", "t", "").Does([&](DialogSession& dialog) -> std::string {
+    Fill(visit, "m", "n", "t", "").Does([&](ControlSession& dialog) -> std::string {
       {
         const ScopedFileSystem scope(files);
         dialog.Click(117);
@@ -203,7 +203,7 @@ TEST_F(AlbumRegistTest, AnAdditionThatCannotBeWrittenCanBeTriedAgain) {
 TEST_F(AlbumRegistTest, AnAlbumThatVanishedMeanwhileIsNotStartedAnew) {
   script.Type(101, "p");
   Fill(script, "m", "n", "t", "").Click(117);
-  script.Does([&](DialogSession&) -> std::string {
+  script.Does([&](ControlSession&) -> std::string {
     std::filesystem::remove(folder.Path() / kAlbum);
     return "";
   });

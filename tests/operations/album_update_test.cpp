@@ -87,7 +87,7 @@ TEST_F(AlbumUpdateTest, OkReadsTheFourBoxesOfThePointAndNoOther) {
   ScriptFrontEnd script;
   script.OpensDialog(147).ShowsTitle("  アルバムデータの更新");
   script.Shows(129, "鎌倉").Shows(130, "寺 社").Shows(132, "35.3").Shows(1000, "139.5");
-  script.Does([](DialogSession& dialog) -> std::string {
+  script.Does([](ControlSession& dialog) -> std::string {
     const DialogLayout layout = dialog.Layout();
     if (layout.placement != Placement::kAtPosition || layout.x != 340 || layout.y != 20) {
       return "the place is another";

@@ -128,7 +128,7 @@ TEST_F(DataSourceTest, ADeletionTakesOneNameOffWhatTheFileHoldsByThen) {
   for (const auto& c : cases) {
     folder.Write(kList, c.opened);
     ScriptFrontEnd visit;
-    visit.OpensDialog(134).Does([&](DialogSession&) {
+    visit.OpensDialog(134).Does([&](ControlSession&) {
       folder.Write(kList, c.meanwhile);
       return "";
     });
@@ -145,7 +145,7 @@ TEST_F(DataSourceTest, AListThatCouldNotBeReadTakesNoNameAndLosesNone) {
     folder.Write(kList, Lines(1, 3));
     std::optional<ScopedFileSystem> broken(files);
     ScriptFrontEnd visit;
-    visit.OpensDialog(134).Does([&](DialogSession&) {
+    visit.OpensDialog(134).Does([&](ControlSession&) {
       broken.reset();
       return "";
     });
@@ -194,7 +194,7 @@ TEST_F(DataSourceTest, TheNinetyNinthNameStillFits) {
   EXPECT_EQ(folder.Read(kList), Lines(1, 99));
 }
 
-std::string TextOf(const DialogSession& session, int id) {
+std::string TextOf(const ControlSession& session, int id) {
   for (int index = 0; index < session.ControlCount(); ++index) {
     if (session.Control(index).id == id) return session.Control(index).text;
   }
@@ -209,7 +209,7 @@ void ClickOnAFailingDisk(int id, const std::string& after) {
   ForEachFault([&](FaultyFileSystem& files) {
     folder.Lay({{kList, Lines(1, 2)}});
     ScriptFrontEnd script;
-    script.OpensDialog(134).Type(101, "name3").Does([&](DialogSession& session) -> std::string {
+    script.OpensDialog(134).Type(101, "name3").Does([&](ControlSession& session) -> std::string {
       {
         const ScopedFileSystem scope(files);
         session.Click(id);

@@ -76,7 +76,7 @@ TEST_F(LegendTest, LoadsItsColoursOnceAndEndsWithEsc) {
   folder.Write(kList, "a$p\r\n");
   folder.Write("p", kThreeRows);
   ScriptFrontEnd script;
-  script.OpensDialog(158).Does([this](DialogSession&) -> std::string {
+  script.OpensDialog(158).Does([this](ControlSession&) -> std::string {
     folder.Write("p", "");
     return "";
   });

@@ -146,7 +146,7 @@ TEST_F(MapTypeTest, NumbersThatNoListHoldsComeBackUnchanged) {
 TEST_F(MapTypeTest, TheChosenKindHasTheFocus) {
   for (const int kind : {1, 2, 3, 0}) {
     ScriptFrontEnd visit;
-    visit.OpensDialog(159).Does([kind](DialogSession& session) -> std::string {
+    visit.OpensDialog(159).Does([kind](ControlSession& session) -> std::string {
       const int expected = kind == 0 ? kTopographic : kTopographic + kind - 1;
       return session.Layout().focus == expected ? "" : "the focus is elsewhere";
     });

@@ -75,7 +75,7 @@ TEST_F(PaletteTest, ARegisteredPaletteCanBeLoadedAndDeleted) {
 }
 
 TEST_F(PaletteTest, WhatOthersMadeOfTheListMeanwhileCounts) {
-  script.Does([this](DialogSession&) -> std::string {
+  script.Does([this](ControlSession&) -> std::string {
     folder.Write(kList, List(2) + "other$Orbis3.plt\r\n");
     folder.Write("Orbis3.plt", "other");
     return "";
@@ -86,7 +86,7 @@ TEST_F(PaletteTest, WhatOthersMadeOfTheListMeanwhileCounts) {
   script.ShowsRows(kNames, {"自然", "冬", "other", "x"}).Pick(kNames, 1);
   // The file of the chosen palette is another one's by now.
   const std::string list = FromUtf8("自然$Orbis2.plt\r\n").bytes;
-  script.Does([&](DialogSession&) -> std::string {
+  script.Does([&](ControlSession&) -> std::string {
     folder.Write(kList, list);
     return "";
   });
@@ -177,12 +177,12 @@ TEST_F(PaletteTest, OkStaysUntilTheDiskTakesWhatIsPending) {
     const std::string bytes = folder.Read(c.missing).value();
     ScriptFrontEnd visit;
     visit.OpensDialog(177).Click(Swatch(2)).ChoosesColour(c.colour, 9u).Type(kNames, "x");
-    visit.Does([&](DialogSession&) -> std::string {
+    visit.Does([&](ControlSession&) -> std::string {
       std::filesystem::remove(folder.Path() / c.missing);
       return "";
     });
     visit.Click(1).ShowsMessage(c.question, kOk).ShowsMessage(c.confirmation, kOk);
-    visit.Shows(kNames, "x").Does([&](DialogSession&) -> std::string {
+    visit.Shows(kNames, "x").Does([&](ControlSession&) -> std::string {
       EXPECT_EQ(folder.Read(c.written), std::nullopt);
       folder.Write(c.missing, bytes);
       return "";
@@ -276,7 +276,7 @@ class FailingDiskTest : public PaletteTest {
 
   const Files before = folder.Content();
 
-  Scene Look(const DialogSession& session) const {
+  Scene Look(const ControlSession& session) const {
     Scene scene;
     scene.files = folder.Content();
     // What is left of a second file goes with the next write.
@@ -300,12 +300,12 @@ class FailingDiskTest : public PaletteTest {
     std::optional<ScopedFileSystem> disk;
     ScriptFrontEnd visit;
     prepare(visit.OpensDialog(177));
-    visit.Does([&](DialogSession& session) {
+    visit.Does([&](ControlSession& session) {
       scenes.first = Look(session);
       disk.emplace(files);
       return "";
     });
-    visit.Click(id).ShowsMessage(question, kOk).Does([&](DialogSession& session) {
+    visit.Click(id).ShowsMessage(question, kOk).Does([&](ControlSession& session) {
       disk.reset();
       ReadPaletteList(folder.Argument());
       scenes.second = Look(session);

@@ -35,7 +35,7 @@ const Operation kOperations[] = {
 // A front end in whose dialogs something happens before the user gives up.
 class Eventful : public ScriptFrontEnd {
  public:
-  explicit Eventful(std::function<void(DialogSession&)> event) : event_(std::move(event)) {}
+  explicit Eventful(std::function<void(ControlSession&)> event) : event_(std::move(event)) {}
 
   bool RunDialog(DialogSession& session) override {
     ++dialogs;
@@ -46,7 +46,7 @@ class Eventful : public ScriptFrontEnd {
   int dialogs = 0;
 
  private:
-  std::function<void(DialogSession&)> event_;
+  std::function<void(ControlSession&)> event_;
 };
 
 TEST(SafeCalls, WithoutAWindowTheUserHasGivenUp) {
@@ -55,7 +55,7 @@ TEST(SafeCalls, WithoutAWindowTheUserHasGivenUp) {
 }
 
 TEST(SafeCalls, NothingIsThrownAtTheHost) {
-  Eventful front_end([](DialogSession&) { throw std::bad_alloc(); });
+  Eventful front_end([](ControlSession&) { throw std::bad_alloc(); });
   ScopedFrontEnd scope(&front_end);
   for (const Operation& one : kOperations) EXPECT_EQ(one.call(), one.given_up) << one.name;
 }
@@ -64,7 +64,7 @@ TEST(SafeCalls, ASecondOneIsGivenUpAtOnce) {
   const auto call_all = [] {
     for (const Operation& one : kOperations) EXPECT_EQ(one.call(), one.given_up) << one.name;
   };
-  Eventful front_end([&](DialogSession&) {
+  Eventful front_end([&](ControlSession&) {
     call_all();
     std::thread(call_all).join();
   });

@@ -23,7 +23,7 @@ inline ScriptFrontEnd::Action ShowsSwatches(std::vector<int> ids,
     std::snprintf(text, sizeof text, "%06X ", static_cast<unsigned>(*colour));
     return text;
   };
-  return [=](DialogSession& session) -> std::string {
+  return [=](ControlSession& session) -> std::string {
     std::string found;
     std::string expected;
     for (const SwatchColour& colour : colours) expected += name(colour);
@@ -39,7 +39,7 @@ inline ScriptFrontEnd::Action ShowsSwatches(std::vector<int> ids,
 
 // The numbers of the swatches that have a black frame.
 inline ScriptFrontEnd::Action ShowsFramed(std::vector<int> ids) {
-  return [=](DialogSession& session) -> std::string {
+  return [=](ControlSession& session) -> std::string {
     std::vector<int> found;
     for (int i = 0; i < session.ControlCount(); ++i) {
       const ControlView view = session.Control(i);

@@ -81,7 +81,7 @@ class ViewersTest : public testing::Test {
   std::string Box(int dialog, int id, const std::function<void()>& call) {
     std::string text;
     ScriptFrontEnd script;
-    script.OpensDialog(dialog).Does([&text, id](DialogSession& session) {
+    script.OpensDialog(dialog).Does([&text, id](ControlSession& session) {
       for (int i = 0; i < session.ControlCount(); ++i) {
         if (session.Control(i).id == id) text = session.Control(i).text;
       }
@@ -125,7 +125,7 @@ TEST_F(ViewersTest, WhatCannotBeReadIsEmpty) {
 
 TEST_F(ViewersTest, BothBoxesHaveAScrollBarAtAllTimes) {
   const auto has_scroll_bar = [](int id) {
-    return [id](DialogSession& session) -> std::string {
+    return [id](ControlSession& session) -> std::string {
       for (int i = 0; i < session.ControlCount(); ++i) {
         const ControlView view = session.Control(i);
         if (view.id == id && view.tall_scroll_bar) return "";
@@ -179,7 +179,7 @@ TEST_F(ViewersTest, TheMemoOpensWhereTheCallerWantsIt) {
   for (const Place& place : places) {
     ScriptFrontEnd script;
     script.OpensDialog(133).ShowsTitle("    メモ（連絡先／画像説明）").Shows(102, "no\\such");
-    script.Does([place](DialogSession& session) {
+    script.Does([place](ControlSession& session) {
       const DialogLayout layout = session.Layout();
       const bool right =
           layout.placement == place.placement && layout.x == place.x && layout.y == place.y;

@@ -39,7 +39,7 @@ void FakeSession::Start(DialogWindow& dialog) {
   if (on_start) on_start();
 }
 
-DialogSession* FakeSession::Page(int tab_control, int tab) {
+ControlSession* FakeSession::Page(int tab_control, int tab) {
   const auto found = pages.find({tab_control, tab});
   return found == pages.end() ? nullptr : found->second;
 }
@@ -77,8 +77,8 @@ void FakeSession::Pick(int id, int row) {
   Record(Name("pick", id) + ' ' + std::to_string(row));
 }
 
-void FakeSession::DoubleClick(int id, int row, int column) {
-  Record(Name("double", id) + ' ' + std::to_string(row) + ' ' + std::to_string(column));
+void FakeSession::DoubleClick(int id, int row) {
+  Record(Name("double", id) + ' ' + std::to_string(row));
 }
 
 void FakeSession::Scroll(int id, int line) {

@@ -19,7 +19,7 @@ class FakeSession : public DialogSession {
 
   DialogLayout layout{700, "試験", Placement::kCentred, 0, 0, 200, 150, kNoControlId};
   std::vector<ControlView> controls;
-  std::map<std::pair<int, int>, DialogSession*> pages;
+  std::map<std::pair<int, int>, ControlSession*> pages;
   Gestures gestures;  // such as "click 3", without "paint"
   int paints = 0;
   bool ended = false;
@@ -46,12 +46,12 @@ class FakeSession : public DialogSession {
   DialogLayout Layout() const override { return layout; }
   int ControlCount() const override { return int(controls.size()); }
   ControlView Control(int index) const override { return controls.at(std::size_t(index)); }
-  DialogSession* Page(int tab_control, int tab) override;
+  ControlSession* Page(int tab_control, int tab) override;
   void Focus(int id) override;
   void Click(int id) override;
   TypedText Type(int id, const std::string& text) override;
   void Pick(int id, int row) override;
-  void DoubleClick(int id, int row, int column) override;
+  void DoubleClick(int id, int row) override;
   void Scroll(int id, int line) override;
   void Enter() override { Record("enter"); }
   void Escape() override;
