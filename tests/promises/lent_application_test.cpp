@@ -1,6 +1,7 @@
 // Hosts without an application: the library makes one at the first dialog and keeps it.
 #include <QPointer>
 #include <clocale>
+#include <csignal>
 #include <thread>
 
 #include "tests/promises/promise.h"
@@ -36,7 +37,9 @@ TEST_F(LentApplication, IsMadeOnceAndKept) {
   EXPECT_EQ(QCoreApplication::instance(), first.data());
 }
 
-TEST_F(LentApplication, LeavesThePlainLocaleAlone) {
+TEST_F(LentApplication, LeavesThePlainLocaleAndHandlersAlone) {
+  setenv("LC_ALL", "C", 1);
+  signal(SIGUSR1, [](int) {});
   ASSERT_NE(setlocale(LC_ALL, "C"), nullptr);
   ExpectNoDialog();
 }

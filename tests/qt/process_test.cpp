@@ -1,18 +1,10 @@
 // Hosts without a QApplication: each test runs its host as a process of its own.
 
 #include <gmock/gmock.h>
-#include <netinet/in.h>
-#include <sys/socket.h>
-#include <sys/un.h>
-#include <unistd.h>
 
 #include <QApplication>
 #include <QLabel>
 #include <QTemporaryDir>
-#include <QThread>
-#include <clocale>
-#include <csignal>
-#include <filesystem>
 
 #include "tests/qt/plugin.h"
 
@@ -47,14 +39,6 @@ void SetVariables(const char* platform, const char* display) {
   if (display != nullptr) setenv("DISPLAY", display, 1);
 }
 
-std::size_t OpenFiles() {
-  std::size_t count = 0;
-  for (const auto& entry : std::filesystem::directory_iterator("/proc/self/fd")) {
-    count += entry.is_symlink();
-  }
-  return count;
-}
-
 bool RunOnce() {
   FakeSession session;
   session.Add(ControlKind::kPushButton, 1, "OK");
@@ -82,41 +66,6 @@ TEST(Process, NoUsableDisplayGivesNoFrontEnd) {
   }
 }
 
-TEST(Process, AServerThatHangsGivesNoFrontEnd) {
-  ExpectQuiet([] {
-    SetVariables(nullptr, nullptr);
-    const int listener = socket(AF_INET, SOCK_STREAM, 0);
-    sockaddr_in address{};
-    address.sin_family = AF_INET;
-    address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
-    constexpr int kFirstPort = 6000;
-    int number = 300;
-    do {
-      address.sin_port = htons(std::uint16_t(kFirstPort + ++number));
-    } while (bind(listener, reinterpret_cast<sockaddr*>(&address), sizeof address) != 0);
-    listen(listener, 4);
-    setenv("DISPLAY", ("127.0.0.1:" + std::to_string(number)).c_str(), 1);
-    return LoadFrontEnd() == nullptr;
-  });
-}
-
-TEST(Process, ACompositorThatHangsGivesNoFrontEnd) {
-  ExpectQuiet([] {
-    const QTemporaryDir folder;
-    SetVariables("wayland", nullptr);
-    const std::string path = folder.filePath("wayland-9").toStdString();
-    sockaddr_un address{};
-    address.sun_family = AF_UNIX;
-    path.copy(address.sun_path, sizeof address.sun_path - 1);
-    const int listener = socket(AF_UNIX, SOCK_STREAM, 0);
-    const bool listening =
-        bind(listener, reinterpret_cast<sockaddr*>(&address), sizeof address) == 0 &&
-        listen(listener, 4) == 0;
-    setenv("WAYLAND_DISPLAY", path.c_str(), 1);
-    return listening && LoadFrontEnd() == nullptr;
-  });
-}
-
 TEST(Process, ALaterCallFindsTheDisplayThatHasComeUp) {
   ExpectQuiet([] {
     SetVariables("nosuchplatform", nullptr);
@@ -130,52 +79,6 @@ TEST(Process, OtherVersionsOfTheSeamAreRefused) {
   ExpectQuiet([] {
     SetVariables("offscreen", nullptr);
     return LoadFrontEnd(kFrontEndVersion + 1) == nullptr && QCoreApplication::instance() == nullptr;
-  });
-}
-
-TEST(Process, AnApplicationWithoutWidgetsOrOnAnotherThreadIsRefused) {
-  ExpectQuiet([] {
-    SetVariables("offscreen", nullptr);
-    int argc = 0;
-    const QCoreApplication application(argc, nullptr);
-    return LoadFrontEnd() == nullptr;
-  });
-  ExpectQuiet([] {
-    SetVariables("offscreen", nullptr);
-    int argc = 0;
-    const QApplication application(argc, nullptr);
-    bool refused = false;
-    const std::unique_ptr<QThread> other(
-        QThread::create([&] { refused = LoadFrontEnd() == nullptr; }));
-    other->start();
-    other->wait();
-    return refused;
-  });
-}
-
-TEST(Process, StaysAsItWasAroundADialog) {
-  ExpectQuiet([] {
-    SetVariables("offscreen", nullptr);
-    setenv("LC_ALL", "C", 1);
-    setenv("DESKTOP_STARTUP_ID", "host", 1);
-    std::signal(SIGUSR1, [](int) {});
-    const auto handler = [] {
-      struct sigaction action {};
-      sigaction(SIGUSR1, nullptr, &action);
-      return action.sa_handler;
-    };
-    const auto variables = [] {
-      std::vector<std::string> all;
-      for (char** entry = environ; *entry != nullptr; ++entry) all.emplace_back(*entry);
-      std::sort(all.begin(), all.end());
-      return all;
-    };
-    const auto folder = std::filesystem::current_path();
-    const auto before = variables();
-    const auto handler_before = handler();
-    return RunOnce() && std::string(std::setlocale(LC_ALL, nullptr)) == "C" &&
-           variables() == before && handler() == handler_before &&
-           std::filesystem::current_path() == folder;
   });
 }
 
@@ -211,18 +114,6 @@ TEST(Process, QtsOwnChoosersAreJapanese) {
     });
     front_end->ChooseColour(0);
     return labels.filter("赤").size() == 1 && labels.filter("Red").isEmpty();
-  });
-}
-
-TEST(Process, AThousandDialogsLeaveNoFileOpen) {
-  ExpectQuiet([] {
-    SetVariables("offscreen", nullptr);
-    if (!RunOnce()) return false;
-    const std::size_t before = OpenFiles();
-    for (int run = 0; run < 1000; ++run) {
-      if (!RunOnce()) return false;
-    }
-    return OpenFiles() == before && QApplication::topLevelWidgets().isEmpty();
   });
 }
 
