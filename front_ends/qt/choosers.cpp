@@ -158,7 +158,7 @@ std::optional<std::string> AskFile(QWidget* owner, const FileChooserRequest& req
 }
 
 std::optional<std::uint32_t> AskColour(QWidget* owner, std::uint32_t start) {
-  QColorDialog dialog(ToColor(start), owner);
+  QColorDialog dialog(ToQColor(start), owner);
   MakeModal(dialog);
   dialog.setOption(QColorDialog::DontUseNativeDialog);
   dialog.setWindowTitle(QStringLiteral("色の設定"));
@@ -167,7 +167,7 @@ std::optional<std::uint32_t> AskColour(QWidget* owner, std::uint32_t start) {
     buttons->button(QDialogButtonBox::Cancel)->setText(QStringLiteral("キャンセル"));
   }
   if (dialog.exec() != QDialog::Accepted) return std::nullopt;
-  return FromColor(dialog.selectedColor());
+  return FromQColor(dialog.selectedColor());
 }
 
 }  // namespace orreryui

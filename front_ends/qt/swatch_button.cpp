@@ -6,11 +6,11 @@
 
 namespace orreryui {
 
-QColor ToColor(std::uint32_t colour) {
+QColor ToQColor(std::uint32_t colour) {
   return QColor(int(colour & 0xFF), int(colour >> 8 & 0xFF), int(colour >> 16 & 0xFF));
 }
 
-std::uint32_t FromColor(const QColor& color) {
+std::uint32_t FromQColor(const QColor& color) {
   return std::uint32_t(color.red()) | std::uint32_t(color.green()) << 8 |
          std::uint32_t(color.blue()) << 16;
 }
@@ -35,7 +35,7 @@ void SwatchButton::SetCaption(const QString& caption) {
 void SwatchButton::NameForScreenReaders() {
   QString name = caption_;
   if (swatch_.colour) {
-    const QColor color = ToColor(*swatch_.colour);
+    const QColor color = ToQColor(*swatch_.colour);
     name += QStringLiteral(" 赤%1 緑%2 青%3").arg(color.red()).arg(color.green()).arg(color.blue());
   } else {
     name += QStringLiteral(" 色なし");
@@ -47,12 +47,12 @@ void SwatchButton::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   const QRect whole = rect();
   painter.fillRect(whole, swatch_.frame
-                              ? ToColor(*swatch_.frame)
+                              ? ToQColor(*swatch_.frame)
                               : palette().color(isDown() ? QPalette::Highlight : QPalette::Mid));
   const int frame = swatch_.frame ? 3 : 1;
   const QRect inside = whole.adjusted(frame, frame, -frame, -frame);
   painter.fillRect(inside,
-                   swatch_.colour ? ToColor(*swatch_.colour) : palette().color(QPalette::Button));
+                   swatch_.colour ? ToQColor(*swatch_.colour) : palette().color(QPalette::Button));
   if (!hasFocus()) return;
   // Two nested lines, one light and one dark, are seen on every colour.
   painter.setPen(Qt::white);

@@ -11,8 +11,8 @@
 namespace orreryui {
 
 // Between Qt's colours and those of the seam, 0x00BBGGRR.
-QColor ToColor(std::uint32_t colour);
-std::uint32_t FromColor(const QColor& color);
+QColor ToQColor(std::uint32_t colour);
+std::uint32_t FromQColor(const QColor& color);
 
 class SwatchButton : public QPushButton {
  public:
