@@ -7,9 +7,11 @@
 namespace orreryui::host {
 
 const std::vector<Operation>& Operations() {
-  static const std::vector<Operation> operations = {
-      MapTypeSet(),  MapPalleteSet(), LegendElevetion(), DataSourceSet(), DllAlbumRegist(),
-      AlbumUpdate(), TextDisplay(),   MemoDisplay(),     RangeConfirm()};
+  static const std::vector<Operation> operations = [] {
+    std::vector<Operation> all;
+    for (const auto describe : kAllOperations) all.push_back(describe());
+    return all;
+  }();
   return operations;
 }
 

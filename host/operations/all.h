@@ -16,6 +16,12 @@ Operation TextDisplay();
 Operation MemoDisplay();
 Operation RangeConfirm();
 
+// In the order of the public header.
+inline constexpr Operation (*kAllOperations[])() = {
+    MapTypeSet,  MapPalleteSet, LegendElevetion, DataSourceSet, DllAlbumRegist,
+    AlbumUpdate, TextDisplay,   MemoDisplay,     RangeConfirm,
+};
+
 }  // namespace orreryui::host
 
 #endif  // ORRERYUI_HOST_OPERATIONS_ALL_H_
