@@ -11,6 +11,12 @@
 # as it does when it is installed.
 function(orrery_layer name)
   cmake_parse_arguments(PARSE_ARGV 1 ARG "" "" "HEADERS;SOURCES;LINKS;USES")
+  foreach(below IN LISTS ARG_LINKS ARG_USES)
+    if(below MATCHES "^orrery_" AND NOT TARGET ${below})
+      message(FATAL_ERROR "${name} stands before ${below}: layers are declared from the bottom up, "
+                          "so that no circle arises")
+    endif()
+  endforeach()
   orrery_link_headers("${CMAKE_BINARY_DIR}/layers/${name}" ${ARG_HEADERS})
   if(ARG_SOURCES)
     add_library(${name} STATIC ${ARG_SOURCES})
