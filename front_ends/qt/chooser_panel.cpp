@@ -58,7 +58,9 @@ void ChooserPanel::Listen() {
           &ChooserPanel::ReportSelection);
   connect(files_, &QFileSystemModel::rootPathChanged, this,
           [this] { Report([this] { session_.ChangeFolder(); }); });
-  connect(&chooser_, &QFileDialog::currentChanged, this, &ChooserPanel::ShowLabel);
+  // Qt has labelled the button by what is selected or typed.
+  connect(rows_->selectionModel(), &QItemSelectionModel::selectionChanged, this,
+          &ChooserPanel::ShowLabel);
   connect(name_, &QLineEdit::textChanged, this, &ChooserPanel::ShowLabel);
 }
 
@@ -69,7 +71,6 @@ void ChooserPanel::ReportSelection() {
   if (!by_name && selected.size() == 1 && !files_->isDir(selected.front())) {
     Report([&] { session_.SelectFile(ToUtf8(files_->filePath(selected.front()))); });
   }
-  ShowLabel();
 }
 
 void ChooserPanel::Report(const std::function<void()>& gesture) {
@@ -85,7 +86,6 @@ void ChooserPanel::GestureDone() {
     chooser_.reject();
   } else {
     pane_->AfterGesture();
-    ShowLabel();
   }
 }
 
