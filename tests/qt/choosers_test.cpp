@@ -14,6 +14,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QRegularExpression>
+#include <QScreen>
 #include <QSettings>
 #include <QTemporaryDir>
 #include <QTest>
@@ -293,6 +294,12 @@ TEST_F(FilePanel, HearsOfTheRowsOfFilesAndOfFoldersAndNotOfNames) {
     expect({"file " + InFolder("a.txt")});
     QTest::keyClick(&Rows(front), Qt::Key_Down);
     expect({"file " + InFolder("b.txt")});
+    QTest::mouseClick(front.findChild<QAbstractButton*>("listModeButton"), Qt::LeftButton);
+    auto& list = *front.findChild<QListView*>("listView");
+    list.setFocus();
+    QTest::keyClick(&list, Qt::Key_End);
+    expect({"file " + InFolder("図.txt")});
+    QTest::mouseClick(front.findChild<QAbstractButton*>("detailModeButton"), Qt::LeftButton);
     ClickRow(front, "c");
     expect({});
     QTest::mouseClick(name, Qt::LeftButton);
@@ -324,8 +331,10 @@ TEST_F(FilePanel, HearsOfTheRowsOfFilesAndOfFoldersAndNotOfNames) {
 }
 
 TEST_F(FilePanel, LiesBelowTheChooserWhichTakesItsKeys) {
+  panel_.layout.height = 200;
   ThenInFront([&](QWidget& front) {
     EXPECT_EQ(front.objectName(), "175");
+    EXPECT_LE(front.height(), front.screen()->availableGeometry().height());
     auto& append = ControlWidget<QRadioButton>(front, 1154);
     auto& create = ControlWidget<QRadioButton>(front, 1155);
     const auto place = [&](const QWidget& widget) {
