@@ -5,18 +5,15 @@
 #include <QPushButton>
 #include <QTimer>
 
+#include "front_ends/qt/screen_room.h"
 #include "front_ends/qt/widget_text.h"
 
 namespace orreryui {
-namespace {
-
-constexpr double kMostGrowth = 1.6;
-
-}  // namespace
 
 ChooserPanel::ChooserPanel(PanelSession& session, QFileDialog& chooser)
     : session_(session),
       chooser_(chooser),
+      scale_(DialogScale::Of(chooser.font())),
       pane_(new ControlPane(session, *this, &chooser)),
       files_(chooser.findChild<QFileSystemModel*>()),
       rows_(chooser.findChild<QTreeView*>(QStringLiteral("treeView"))),
@@ -24,23 +21,32 @@ ChooserPanel::ChooserPanel(PanelSession& session, QFileDialog& chooser)
   session_.Start(*pane_);
   chooser_.setObjectName(QString::number(session_.Layout().number));
   pane_->Build();
-  Arrange();
-  auto* const grid = qobject_cast<QGridLayout*>(chooser_.layout());
-  if (grid != nullptr) grid->addWidget(pane_, grid->rowCount(), 0, 1, grid->columnCount());
-  chooser_.resize(chooser_.width(), chooser_.height() + pane_->height());
+  Join();
   OrderTabs();
   Listen();
   ShowLabel();
   QTimer::singleShot(0, this, [this] { Report([this] { session_.Paint(); }); });
 }
 
+// Where the screen is low, the chooser's list gives way.
+void ChooserPanel::Join() {
+  auto* const grid = qobject_cast<QGridLayout*>(chooser_.layout());
+  if (grid == nullptr) return;
+  const QSize room = RoomFor(chooser_);
+  const QMargins margins = grid->contentsMargins();
+  const QSize around(margins.left() + margins.right(), grid->minimumSize().height());
+  most_ = scale_.MostFor(session_.Layout(), room - around);
+  Arrange();
+  grid->addWidget(pane_, grid->rowCount(), 0, 1, grid->columnCount());
+  chooser_.resize(QSize(chooser_.width(), chooser_.height() + pane_->height()).boundedTo(room));
+}
+
 void ChooserPanel::Arrange() {
-  const DialogScale font = DialogScale::Of(chooser_.font());
-  const DialogScale scale = pane_->GrowUpTo(font, {font.x * kMostGrowth, font.y * kMostGrowth});
+  scale_ = pane_->GrowUpTo(scale_, most_);
   const DialogLayout layout = session_.Layout();
-  const QPoint corner = scale.ToPixels(layout.width, layout.height);
+  const QPoint corner = scale_.ToPixels(layout.width, layout.height);
   pane_->setFixedSize(corner.x(), corner.y());
-  Quietly([&] { pane_->Arrange(scale); });
+  Quietly([this] { pane_->Arrange(scale_); });
 }
 
 void ChooserPanel::OrderTabs() {
@@ -58,7 +64,9 @@ void ChooserPanel::Listen() {
           &ChooserPanel::ReportSelection);
   connect(files_, &QFileSystemModel::rootPathChanged, this,
           [this] { Report([this] { session_.ChangeFolder(); }); });
-  connect(&chooser_, &QFileDialog::currentChanged, this, &ChooserPanel::ShowLabel);
+  // Qt has labelled the button by what is selected or typed.
+  connect(rows_->selectionModel(), &QItemSelectionModel::selectionChanged, this,
+          &ChooserPanel::ShowLabel);
   connect(name_, &QLineEdit::textChanged, this, &ChooserPanel::ShowLabel);
 }
 
@@ -69,7 +77,6 @@ void ChooserPanel::ReportSelection() {
   if (!by_name && selected.size() == 1 && !files_->isDir(selected.front())) {
     Report([&] { session_.SelectFile(ToUtf8(files_->filePath(selected.front()))); });
   }
-  ShowLabel();
 }
 
 void ChooserPanel::Report(const std::function<void()>& gesture) {
@@ -85,7 +92,6 @@ void ChooserPanel::GestureDone() {
     chooser_.reject();
   } else {
     pane_->AfterGesture();
-    ShowLabel();
   }
 }
 

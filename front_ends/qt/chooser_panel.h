@@ -10,6 +10,7 @@
 #include <functional>
 
 #include "front_ends/qt/control_pane.h"
+#include "front_ends/qt/dialog_scale.h"
 #include "front_ends/qt/pane_frame.h"
 #include "platform/front_end.h"
 
@@ -32,6 +33,7 @@ class ChooserPanel : public QObject, public PaneFrame {
   void Abandon() override { chooser_.reject(); }
 
  private:
+  void Join();
   void Arrange();
   void OrderTabs();
   void Listen();
@@ -41,6 +43,8 @@ class ChooserPanel : public QObject, public PaneFrame {
 
   PanelSession& session_;
   QFileDialog& chooser_;
+  DialogScale scale_;
+  DialogScale most_;   // the scale beyond which texts are cut instead
   ControlPane* pane_;  // the chooser owns these
   QFileSystemModel* files_;
   QTreeView* rows_;

@@ -153,6 +153,7 @@ std::optional<std::string> AskFile(QWidget* owner, const FileChooserRequest& req
   FitFileColumns(dialog);
   StartAt(dialog, FromUtf8(request.start_name));
   dialog.AddPanel();
+  if (request.panel != nullptr && request.panel->Ended()) return std::nullopt;
   if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return std::nullopt;
   return ToUtf8(dialog.selectedFiles().front());
 }

@@ -7,12 +7,23 @@
 #include "front_ends/qt/text_fit.h"
 
 namespace orreryui {
+namespace {
+
+constexpr double kMostGrowth = 1.6;
+
+}  // namespace
 
 DialogScale DialogScale::Of(const QFont& font) {
   const QString latin = QStringLiteral("ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz");
   const double average = TextSize(latin, font).width() / double(latin.size());
   const double full_width = TextSize(QStringLiteral("国"), font).width();
   return {std::max(average / 4, full_width / 8), double(LineHeight(font)) / 8};
+}
+
+DialogScale DialogScale::MostFor(const DialogLayout& layout, QSize room) const {
+  const QPoint corner = ToPixels(layout.width, layout.height);
+  return {x * std::clamp(double(room.width()) / corner.x(), 1.0, kMostGrowth),
+          y * std::clamp(double(room.height()) / corner.y(), 1.0, kMostGrowth)};
 }
 
 QPoint DialogScale::ToPixels(int x_units, int y_units) const {

@@ -18,6 +18,10 @@ struct DialogScale {
   // The font's own scale: a full-width character is at most 8 units wide, a line 8 units high.
   static DialogScale Of(const QFont& font);
 
+  // The scale beyond which texts are cut instead of growing the dialog: a dialog that fits into
+  // `room` at this scale still does so then.
+  DialogScale MostFor(const DialogLayout& layout, QSize room) const;
+
   QPoint ToPixels(int x_units, int y_units) const;
   QRect ToPixels(const DialogRect& place) const;
   int ColumnToPixels(int width) const;  // width of a list's column at scale 1

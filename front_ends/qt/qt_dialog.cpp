@@ -10,15 +10,11 @@
 #include <algorithm>
 
 #include "front_ends/qt/foreign_window.h"
+#include "front_ends/qt/screen_room.h"
 #include "front_ends/qt/widget_text.h"
 
 namespace orreryui {
 namespace {
-
-constexpr double kMostGrowth = 1.6;
-
-// The frame that a desktop draws around a window, in pixels; not known before it is shown.
-constexpr QSize kWindowFrame(16, 48);
 
 QRect Inside(QRect window, const QRect& area) {
   window.moveRight(std::min(window.right(), area.right()));
@@ -81,17 +77,8 @@ void QtDialog::Build() {
   pane_ = new ControlPane(session_, *this, this);
   pane_->Build();
   scale_ = DialogScale::Of(font());
-  LimitGrowth();
+  most_ = scale_.MostFor(session_.Layout(), RoomFor(*this));
   Arrange();
-}
-
-// A dialog that fits into the screen doesn't grow beyond it.
-void QtDialog::LimitGrowth() {
-  const DialogLayout layout = session_.Layout();
-  const QPoint corner = scale_.ToPixels(layout.width, layout.height);
-  const QSize room = Room();
-  most_ = {scale_.x * std::clamp(double(room.width()) / corner.x(), 1.0, kMostGrowth),
-           scale_.y * std::clamp(double(room.height()) / corner.y(), 1.0, kMostGrowth)};
 }
 
 void QtDialog::Arrange() {
@@ -106,7 +93,7 @@ void QtDialog::Arrange() {
 }
 
 void QtDialog::FitIntoScreen(QSize size) {
-  const QSize room = Room();
+  const QSize room = RoomFor(*this);
   if (size.width() <= room.width() && size.height() <= room.height() && scroll_area_ == nullptr) {
     setFixedSize(size);
     return;
@@ -143,18 +130,9 @@ const QWindow* QtDialog::HostWindow() const {
   return outermost->windowHandle()->transientParent();
 }
 
-QRect QtDialog::AvailableArea() const {
-  const QScreen* screen = parentWidget() != nullptr ? parentWidget()->screen() : nullptr;
-  if (screen == nullptr) screen = QGuiApplication::screenAt(QCursor::pos());
-  if (screen == nullptr) screen = QGuiApplication::primaryScreen();
-  return screen->availableGeometry();
-}
-
-QSize QtDialog::Room() const { return AvailableArea().size() - kWindowFrame; }
-
 void QtDialog::Place() {
   placed_ = session_.Layout();
-  QRect area = AvailableArea();
+  QRect area = AvailableArea(*this);
   // A dialog stays on the screen of the window that it stands before.
   const auto frame = [&area](const QWindow* before) {
     if (before == nullptr) return area;

@@ -57,15 +57,12 @@ class QtDialog : public QDialog, public DialogWindow, private PaneFrame {
   void Build();
   void StandBefore(QWindow* host);
   void Arrange();
-  void LimitGrowth();
   void FitIntoScreen(QSize size);
   void OrderTabs();
   void ShowFocus();
   void Place();
   void StayOnScreen();
   const QWindow* HostWindow() const;  // that the outermost dialog stands before, or null
-  QRect AvailableArea() const;
-  QSize Room() const;  // for a dialog inside a frame in that area
   void Paint();
 
   DialogSession& session_;

@@ -4,6 +4,16 @@
 #include "front_ends/qt/widget_text.h"
 
 namespace orreryui {
+namespace {
+
+// A line feed at the end begins no line.
+QString Lines(const ControlView& view) {
+  QString text = FromLines(view.text);
+  if (text.endsWith(QLatin1Char('\n'))) text.chop(1);
+  return text;
+}
+
+}  // namespace
 
 StaticBinder::StaticBinder(const BinderPlace& place)
     : ControlBinder(place), label_(new QLabel(place.parent)) {
@@ -16,12 +26,12 @@ void StaticBinder::ShowState(const ControlView& view) {
 }
 
 QSize StaticBinder::Needed(const ControlView& view, QSize offered) const {
-  return NeededSize(FromLines(view.text), label_->font(), offered);
+  return NeededSize(Lines(view), label_->font(), offered);
 }
 
 void StaticBinder::Arrange(const ControlView& view, const DialogScale& scale) {
   ControlBinder::Arrange(view, scale);
-  const QString text = FromLines(view.text);
+  const QString text = Lines(view);
   const QFont font = label_->font();
   const bool fits = NeededSize(text, font, label_->size()) == label_->size();
   // The label would break at blanks alone, which a path doesn't have.

@@ -15,7 +15,7 @@ int CFileDialog::DoModal() {
   FrontEnd* const front_end = CurrentFrontEnd();
   if (!front_end) return -1;
   ModalRun::RefreshInnermost();
-  path_ = CString();
+  path_ = accept_label_ = CString();
   PanelRun run(*this);
   FileChooserRequest request;
   request.filters = types_;

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "front_ends/script/script_front_end.h"
+#include "platform/dialogs/file_dialog.h"
 #include "platform/dialogs/front_end_loader.h"
 #include "platform/dialogs/inner_windows.h"
 #include "platform/strings/japanese_literal.h"
@@ -68,6 +69,28 @@ class Recorder : public CDialog {
     log += std::to_string(id) + " " + kNames[static_cast<int>(event)] + "; ";
     if (on_event) on_event(*this, id, event);
     return CDialog::OnMessage(id, event);
+  }
+};
+
+// A panel that writes down what it hears of its chooser.
+class Chooser : public CFileDialog {
+ public:
+  Chooser() : CFileDialog(kAll, {{"Maps", {"*.txt"}}}) {}
+
+  std::string log;
+  bool throws = false;
+
+ private:
+  void OnFileNameChange() override {
+    if (throws) throw 1;
+    log += "file " + std::string(GetPathName()) + "; ";
+  }
+  void OnFolderChange() override { log += "folder; "; }
+  bool OnMessage(int id, Event) override {
+    log += std::to_string(id) + "; ";
+    SetAcceptLabel("選択"_sj);
+    EndDialog(id);
+    return true;
   }
 };
 
@@ -246,32 +269,57 @@ TEST_F(DialogTest, ADialogThatEndsAtItsStartIsNeverShown) {
   EXPECT_EQ(dialog.paints, 0);
 }
 
-TEST_F(DialogTest, AnInnerDialogCoversTheOuterOne) {
+TEST_F(DialogTest, AnInnerDialogAndAChooserCoverTheOuterOne) {
   Recorder inner{kBare};
+  Chooser chooser;
   DialogSession* outer_session = nullptr;
+  const auto is_covered = [&](ControlSession&) {
+    outer_session->Click(kCheck);
+    outer_session->Escape();
+    return outer_session->Ended() ? "the outer dialog ended" : "";
+  };
   dialog.on_event = [&](Recorder&, int id, Event) {
-    if (id == kPush) inner.DoModal();
+    if (id != kPush) return;
+    inner.DoModal();
+    chooser.DoModal();
   };
   script.OpensDialog(1).Does([&](ControlSession& session) {
     outer_session = dynamic_cast<DialogSession*>(&session);
     return "";
   });
-  script.Click(kPush).OpensDialog(2).Does([&](ControlSession&) {
-    outer_session->Click(kCheck);
-    outer_session->Escape();
-    return outer_session->Ended() ? "the outer dialog ended" : "";
-  });
-  script.Escape().ShowsCheck(kCheck, false).Escape();
+  script.Click(kPush).OpensDialog(2).Does(is_covered).Escape();
+  script.OpensPanel(1).Does(is_covered).GivesUp().ShowsCheck(kCheck, false).Escape();
   EXPECT_EQ(Run(), "40 lost; 10 click; 2 click; ");
   EXPECT_EQ(inner.log, "2 click; ");
+}
+
+TEST_F(DialogTest, APanelHearsOfItsChooserAndLabelsItAndTheChooserEndsItself) {
+  Chooser chooser;
+  script.OpensPanel(1).SelectsFile("/図/a.txt").SelectsFile("/図/😀.txt").ChangesFolder();
+  script.ShowsAcceptLabel("").Click(kRadioB).ShowsCheck(kRadioB, true).ShowsAcceptLabel("選択");
+  script.Does([&](ControlSession&) {
+    return chooser.GetPathName() == "\\図\\a.txt"_sj ? "" : "another path";
+  });
+  script.TypesName("/図/b.txt").Accepts();
+  script.OpensPanel(1).ShowsAcceptLabel("").ShowsCheck(kRadioB, false).GivesUp();
+  ScopedFrontEnd scope(&script);
+  EXPECT_EQ(chooser.DoModal(), IDOK);
+  EXPECT_EQ(chooser.GetPathName(), "\\図\\b.txt"_sj);
+  EXPECT_EQ(chooser.log, "file \\図\\a.txt; folder; 21; "_sj);
+  EXPECT_EQ(script.LastFileRequest().refused("/図/😀.txt"), "😀");
+  EXPECT_EQ(chooser.DoModal(), IDCANCEL);
 }
 
 TEST_F(DialogTest, WhatAHandlerThrowsEndsItsDialogAndNoOther) {
   DialogTemplate growing = kBare;
   Recorder thrower{growing};
+  Chooser chooser;
+  chooser.throws = true;
   std::vector<int> codes;
   dialog.on_event = [&](Recorder&, int id, Event event) {
-    if (id == kPush && event == Event::kClick) codes.push_back(thrower.DoModal());
+    if (event != Event::kClick) return;
+    if (id == kPush) codes.push_back(thrower.DoModal());
+    if (id == kSwatch) codes.push_back(chooser.DoModal());
   };
   thrower.on_event = [](Recorder& d, int, Event) {
     d.End(IDOK);
@@ -290,9 +338,10 @@ TEST_F(DialogTest, WhatAHandlerThrowsEndsItsDialogAndNoOther) {
     session.Click(kCheck);
     return "";
   });
-  script.ShowsCheck(kCheck, false).Escape();
+  script.ShowsCheck(kCheck, false).Click(kSwatch).OpensPanel(1).SelectsFile("/a");
+  script.Click(kCheck).ShowsCheck(kCheck, true).Escape();
   Run();
-  EXPECT_EQ(codes, (std::vector<int>{-1, -1, -1}));
+  EXPECT_EQ(codes, (std::vector<int>{-1, -1, -1, -1}));
   EXPECT_EQ(code, IDCANCEL);
 }
 

@@ -12,7 +12,9 @@
 #include <QListView>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QRadioButton>
 #include <QRegularExpression>
+#include <QScreen>
 #include <QSettings>
 #include <QTemporaryDir>
 #include <QTest>
@@ -239,6 +241,132 @@ TEST_F(FileChooser, ANameWithoutAFolderStartsWhereTheLastFileWasChosen) {
     EXPECT_EQ(static_cast<QFileDialog&>(front).directory(), QDir(folder_.path()));
     static_cast<QDialog&>(front).reject();
   });
+  EXPECT_EQ(front_end_.ChooseFile(request_), std::nullopt);
+}
+
+class FilePanel : public FileChooser {
+ protected:
+  FilePanel() {
+    for (const char* folder : {"c", "c/d"}) QDir(folder_.path()).mkdir(folder);
+    for (const char* name : {"a.txt", "b.txt"}) Make(name);
+    request_.start_name = folder_.path().toStdString() + "/";
+    request_.panel = &panel_;
+    panel_.layout.number = 175;
+    panel_.label = "選択";
+    panel_.Add(ControlKind::kRadioButton, 1154, "追加").checked = true;
+    panel_.Add(ControlKind::kRadioButton, 1155, "新規作成");
+  }
+
+  static QTreeView& Rows(QWidget& front) { return *front.findChild<QTreeView*>("treeView"); }
+
+  // Where the row of a name is, once the chooser has read its folder.
+  static QPoint RowOf(QWidget& front, const QString& name) {
+    QTreeView& rows = Rows(front);
+    QModelIndex found;
+    EXPECT_TRUE(QTest::qWaitFor([&] {
+      const auto hits = rows.model()->match(rows.model()->index(0, 0, rows.rootIndex()),
+                                            Qt::DisplayRole, name, 1, Qt::MatchExactly);
+      if (!hits.isEmpty()) found = hits.front();
+      return found.isValid() && !rows.visualRect(found).isEmpty();
+    }));
+    return rows.visualRect(found).center();
+  }
+
+  static void ClickRow(QWidget& front, const QString& name) {
+    QTest::mouseClick(Rows(front).viewport(), Qt::LeftButton, {}, RowOf(front, name));
+  }
+
+  static QString Label(QWidget& front) {
+    return front.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Open)->text();
+  }
+
+  FakePanel panel_;
+};
+
+TEST_F(FilePanel, HearsOfTheRowsOfFilesAndOfFoldersAndNotOfNames) {
+  ThenInFront([&](QWidget& front) {
+    const auto expect = [&](const FakeSession::Gestures& heard) {
+      EXPECT_EQ(panel_.Take(), heard);
+      EXPECT_EQ(Label(front), "選択");
+    };
+    auto* const name = front.findChild<QLineEdit*>("fileNameEdit");
+    ClickRow(front, "a.txt");
+    expect({"file " + InFolder("a.txt")});
+    QTest::keyClick(&Rows(front), Qt::Key_Down);
+    expect({"file " + InFolder("b.txt")});
+    QTest::mouseClick(front.findChild<QAbstractButton*>("listModeButton"), Qt::LeftButton);
+    auto& list = *front.findChild<QListView*>("listView");
+    list.setFocus();
+    QTest::keyClick(&list, Qt::Key_End);
+    expect({"file " + InFolder("図.txt")});
+    QTest::mouseClick(front.findChild<QAbstractButton*>("detailModeButton"), Qt::LeftButton);
+    ClickRow(front, "c");
+    expect({});
+    QTest::mouseClick(name, Qt::LeftButton);
+    name->selectAll();
+    QTest::keyClicks(name, "c/d");
+    expect({});
+    name->selectAll();
+    QTest::keyClicks(name, "a.tx");
+    EXPECT_TRUE(QTest::qWaitFor([] { return QApplication::activePopupWidget() != nullptr; }));
+    QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Down);
+    QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Escape);
+    EXPECT_EQ(name->text(), "a.txt");
+    expect({});
+    ClickRow(front, "b.txt");
+    expect({"file " + InFolder("b.txt")});
+    ClickRow(front, "c");
+    QTest::mouseDClick(Rows(front).viewport(), Qt::LeftButton, {}, RowOf(front, "c"));
+    expect({"folder"});
+    RowOf(front, "d");
+    QTest::mouseClick(front.findChild<QAbstractButton*>("toParentButton"), Qt::LeftButton);
+    expect({"folder"});
+    Type(front, "c");
+    expect({"folder"});
+    Type(front, "../a");
+  });
+  request_.default_extension = "txt";
+  EXPECT_EQ(front_end_.ChooseFile(request_), InFolder("a.txt"));
+  EXPECT_THAT(panel_.Take(), testing::ElementsAre());
+}
+
+TEST_F(FilePanel, LiesBelowTheChooserWhichTakesItsKeys) {
+  panel_.layout.height = 200;
+  ThenInFront([&](QWidget& front) {
+    EXPECT_EQ(front.objectName(), "175");
+    EXPECT_LE(front.height(), front.screen()->availableGeometry().height());
+    auto& append = ControlWidget<QRadioButton>(front, 1154);
+    auto& create = ControlWidget<QRadioButton>(front, 1155);
+    const auto place = [&](const QWidget& widget) {
+      return QRect(widget.mapTo(&front, QPoint()), widget.size());
+    };
+    auto& buttons = *front.findChild<QDialogButtonBox*>();
+    EXPECT_TRUE(front.rect().contains(place(append) | place(create)));
+    EXPECT_GT(place(append).top(), place(buttons).bottom());
+    EXPECT_GT(place(append).top(), place(*front.findChild<QWidget*>("fileTypeCombo")).bottom());
+    ClickRow(front, "a.txt");
+    panel_.Take();
+    buttons.button(QDialogButtonBox::Cancel)->setFocus();
+    QTest::keyClick(front.focusWidget(), Qt::Key_Tab);
+    EXPECT_TRUE(append.hasFocus());
+    QTest::keyClick(&append, Qt::Key_Down);
+    EXPECT_THAT(panel_.Take(), testing::ElementsAre("focus 1154", "focus 1155", "click 1155"));
+    QTest::mouseClick(&append, Qt::LeftButton, {}, {5, append.height() / 2});
+    EXPECT_THAT(panel_.Take(), testing::ElementsAre("focus 1154", "click 1154"));
+    QTest::keyClick(&append, Qt::Key_Return);
+  });
+  EXPECT_EQ(front_end_.ChooseFile(request_), InFolder("a.txt"));
+  ThenInFront([](QWidget& front) {
+    QTest::keyClick(&ControlWidget<QRadioButton>(front, 1154), Qt::Key_Escape);
+  });
+  EXPECT_EQ(front_end_.ChooseFile(request_), std::nullopt);
+}
+
+TEST_F(FilePanel, ClosesItsChooserWhenItEnds) {
+  panel_.handler = [this](const std::string& gesture) { panel_.ended = gesture != "paint"; };
+  ThenInFront([](QWidget& front) { ClickRow(front, "a.txt"); });
+  EXPECT_EQ(front_end_.ChooseFile(request_), std::nullopt);
+  panel_.on_start = [this] { panel_.ended = true; };
   EXPECT_EQ(front_end_.ChooseFile(request_), std::nullopt);
 }
 

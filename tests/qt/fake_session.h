@@ -1,5 +1,5 @@
-// A dialog of plain data: it records the gestures that reach it, and does with them the little that
-// a test tells it to.
+// A dialog, or a panel, of plain data: it records the gestures that reach it, and does with them
+// the little that a test tells it to.
 #ifndef ORRERYUI_TESTS_QT_FAKE_SESSION_H_
 #define ORRERYUI_TESTS_QT_FAKE_SESSION_H_
 
@@ -57,10 +57,20 @@ class FakeSession : public DialogSession {
   void Escape() override;
   void Paint() override;
 
- private:
+ protected:
   void Record(const std::string& gesture);
 
+ private:
   int next_y_ = 4;
+};
+
+class FakePanel : public FakeSession, public PanelSession {
+ public:
+  std::string label;
+
+  void SelectFile(const std::string& path) override { Record("file " + path); }
+  void ChangeFolder() override { Record("folder"); }
+  std::string AcceptLabel() const override { return label; }
 };
 
 }  // namespace orreryui

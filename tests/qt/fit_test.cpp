@@ -92,6 +92,9 @@ TEST(Fit, TextThatGrowsLaterFitsAsWell) {
   FakeSession session;
   session.Add(ControlKind::kStatic, 1, "短", 8).place.width = 60;
   RunWithUser(session, [&](QDialog& window) {
+    const int height = window.height();
+    session.Change(1, [](ControlView& view) { view.text = "字\r\n"; });
+    EXPECT_EQ(window.height(), height);
     session.Change(1, [](ControlView& view) { view.text = "すこし長い文字列"; });
     const auto& label = ControlWidget<QLabel>(window, 1);
     ExpectRoomForText(label);
