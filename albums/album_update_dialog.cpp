@@ -3,7 +3,8 @@
 #include "albums/text_preview.h"
 #include "frame/run_editor.h"
 #include "points/album_file.h"
-#include "points/packed_point.h"
+#include "points/point_boxes.h"
+#include "points/point_file.h"
 #include "templates/album_update.h"
 
 namespace orreryui {
@@ -15,6 +16,10 @@ namespace {
 constexpr int kEndedByDeletion = 3;
 constexpr int kCodeOfDeletion = -1;
 constexpr int kCodeOfEnd = 0;
+
+// The coordinates on show are the registered point's.
+constexpr PointBoxes kDataBoxes = {
+    .place = kMemo1, .item = kMemo2, .text_file = kTextFile, .picture = kPictureFile};
 
 }  // namespace
 
@@ -48,29 +53,17 @@ void CDlgAlbumUpdate::OnInitDialog() {
 }
 
 void CDlgAlbumUpdate::LoadData() {
-  m_aPacked.clear();
-  for (const CString& line : ReadAlbumLines(m_strAlbumFile)) {
-    m_aPacked.push_back(PackPointLine(line));
-    AddString(kData, PointLabel(m_aPacked.back()));
-  }
+  m_aPacked = ReadAlbumPoints(m_strAlbumFile);
+  ListPoints(*this, kData, m_aPacked);
   m_nCount = GetCount(kData);
-  CString text;
-  text.Format("%d", m_nCount);
-  SetDlgItemText(kPosition, text + "件"_sj);
+  ShowCount(*this, kPosition, m_nCount);
 }
 
 void CDlgAlbumUpdate::OnSelectData() {
   const int row = GetCurSel(kData);
   if (row < 0 || row >= m_nCount) return;
-  CString position;
-  position.Format("%d/%d", row + 1, m_nCount);
-  SetDlgItemText(kPosition, position);
-  const DataLine data = UnpackPoint(m_aPacked[static_cast<std::size_t>(row)]);
-  SetDlgItemText(kTextFile, data.text_file);
-  SetDlgItemText(kPictureFile, data.picture);
-  SetDlgItemText(kMemo1, data.place);
-  SetDlgItemText(kMemo2, data.item);
-  m_strTextFile = data.text_file;
+  ShowPosition(*this, kPosition, row, m_nCount);
+  m_strTextFile = ShowPoint(*this, kDataBoxes, m_aPacked, row).text_file;
 }
 
 void CDlgAlbumUpdate::OnPreviewText() { PreviewText(m_strTextFile); }

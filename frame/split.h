@@ -16,6 +16,12 @@ inline CString TakeField(CString& rest, char separator) {
   return field;
 }
 
+// What stands before the first `separator`; all of a text without one.
+inline CString TextBefore(const CString& text, char separator) {
+  const int position = text.Find(separator);
+  return position < 0 ? text : text.Left(position);
+}
+
 }  // namespace orreryui
 
 #endif  // ORRERYUI_FRAME_SPLIT_H_

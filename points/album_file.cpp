@@ -7,8 +7,6 @@
 namespace orreryui {
 namespace {
 
-constexpr std::size_t kLineLimit = 200;
-
 CString Compose(const DataLine& data) {
   CString line = data.place + ' ' + data.latitude + ' ' + data.longitude + ' ' + data.item;
   if (!data.picture.IsEmpty()) line += ' ' + data.picture;
@@ -17,7 +15,7 @@ CString Compose(const DataLine& data) {
 }
 
 bool IsWritten(const CString& line) {
-  return line[0] != ';' && line.GetLength() < static_cast<int>(kLineLimit);
+  return line[0] != ';' && line.GetLength() < static_cast<int>(kDataLineLimit);
 }
 
 bool HoldsData(const CString& line) { return !line.IsEmpty() && line[0] != ';' && line[0] != 'M'; }
@@ -35,7 +33,7 @@ bool CreateEmptyAlbum(const CString& path) { return CreateFile(path, ""); }
 
 std::vector<CString> ReadAlbumLines(const CString& path) {
   std::vector<CString> lines;
-  LineReader reader(path, kLineLimit);
+  LineReader reader(path, kDataLineLimit);
   CString line;
   while (lines.size() < kMostDataLines && reader.ReadLine(line) && line != kEndMarker) {
     if (HoldsData(line)) lines.push_back(line);

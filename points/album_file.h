@@ -13,15 +13,11 @@
 
 #include <orreryui/cstring.h>
 
-#include <cstddef>
 #include <vector>
 
 #include "points/data_line.h"
 
 namespace orreryui {
-
-// As many data lines as are read. Those behind them stay in the file.
-inline constexpr std::size_t kMostDataLines = 99;
 
 // The line that ends the data: what stands behind it isn't seen.
 inline constexpr char kEndMarker[] = "999";

@@ -47,6 +47,6 @@ DataLine UnpackPoint(const CString& packed) {
   return data;
 }
 
-CString PointLabel(const CString& packed) { return packed.Left(packed.Find('@')); }
+CString PointLabel(const CString& packed) { return TextBefore(packed, '@'); }
 
 }  // namespace orreryui

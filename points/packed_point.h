@@ -20,7 +20,7 @@ CString PackPointLine(const CString& line);
 // picture anywhere, whatever its case; the second one, if there is one, is the other kind then.
 DataLine UnpackPoint(const CString& packed);
 
-// What a list shows for a packed point.
+// What a list shows for a packed point; all of it if it has no @.
 CString PointLabel(const CString& packed);
 
 }  // namespace orreryui

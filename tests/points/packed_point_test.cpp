@@ -78,7 +78,7 @@ TEST(PackedPointTest, TextThatIsNoPackedPointIsTakenApartAllTheSame) {
 TEST(PackedPointTest, TheLabelIsWhatStandsBeforeTheFiles) {
   EXPECT_STREQ(PointLabel("p#i@a.txt$1$2"), "p#i");
   EXPECT_STREQ(PointLabel("ァ#ー@@"_sj), "ァ#ー"_sj);
-  EXPECT_STREQ(PointLabel("none"), "");
+  EXPECT_STREQ(PointLabel("none"), "none");
 }
 
 }  // namespace
