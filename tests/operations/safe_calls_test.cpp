@@ -3,6 +3,7 @@
 #include <orreryui/orreryui.h>
 
 #include <functional>
+#include <iterator>
 #include <new>
 #include <string>
 #include <thread>
@@ -31,6 +32,8 @@ const Operation kOperations[] = {
     {"OnRengeConfirm",
      [] { return CString(std::to_string(OnRengeConfirm("", "", "", "")).c_str()); }, "-1"},
 };
+
+static_assert(std::size(kOperations) == ORRERYUI_OPERATION_COUNT);
 
 // A front end in whose dialogs something happens before the user gives up.
 class Eventful : public ScriptFrontEnd {

@@ -1,7 +1,6 @@
 #include <orreryui/orreryui.h>
 
 #include "host/operations/all.h"
-#include "host/samples.h"
 #include "templates/range.h"
 
 namespace orreryui::host {
