@@ -11,7 +11,7 @@ namespace orreryui {
 // doesn't separate.
 inline CString TakeField(CString& rest, char separator) {
   const int position = rest.Find(separator);
-  const CString field = rest.Left(position);
+  CString field = rest.Left(position);
   rest = rest.Mid(position + 1);
   return field;
 }

@@ -61,7 +61,7 @@ std::future<std::shared_ptr<void>> StartConnecting() {
 
 std::string WaylandSocketPath() {
   const char* const display = std::getenv("WAYLAND_DISPLAY");
-  const std::string name = display != nullptr && *display != 0 ? display : "wayland-0";
+  std::string name = display != nullptr && *display != 0 ? display : "wayland-0";
   if (name.front() == '/') return name;
   const char* const folder = std::getenv("XDG_RUNTIME_DIR");
   return folder != nullptr ? std::string(folder) + '/' + name : std::string();

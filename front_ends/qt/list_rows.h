@@ -22,8 +22,8 @@ void ShowRows(QListWidget* list, const ControlView& view);
 
 // Turns picks and double clicks in the view into gestures on the control `id`.
 template <class View>
-void ReportPicks(PickingView<View>* view, std::function<void(const GestureRunner::Gesture&)> run,
-                 int id) {
+void ReportPicks(PickingView<View>* view,
+                 const std::function<void(const GestureRunner::Gesture&)>& run, int id) {
   view->on_pick = [run, id](int row) {
     run([=](ControlSession& session) { session.Pick(id, row); });
   };

@@ -28,9 +28,10 @@ std::string FindOnPath(const std::string& name) {
   const char* const path = std::getenv("PATH");
   std::string_view folders = path ? path : "/usr/bin:/bin";
   while (!folders.empty()) {
-    const std::string folder(folders.substr(0, folders.find(':')));
+    const std::string_view folder = folders.substr(0, folders.find(':'));
     folders.remove_prefix(std::min(folders.size(), folder.size() + 1));
-    const std::string native = folder + "/" + name;
+    std::string native(folder);
+    native.append("/").append(name);
     if (!folder.empty() && IsProgram(native)) return native;
   }
   return {};

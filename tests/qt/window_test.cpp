@@ -169,8 +169,8 @@ TEST(Window, EndsWhenTheHostQuitsWhateverIsOpenAboveIt) {
         open();
         covered = false;
       };
-      QTimer::singleShot(0, [&] {
-        ThenInFront([&, quit = quit](QWidget& window) {
+      QTimer::singleShot(0, [&, quit = quit] {
+        ThenInFront([&, quit](QWidget& window) {
           QTimer::singleShot(0, quit);
           QTest::mouseClick(&ControlWidget<QPushButton>(window, 1), Qt::LeftButton);
         });
@@ -294,7 +294,8 @@ TEST(Window, StaysOnTheScreen) {
     session.layout.x = x;
     session.layout.y = y;
     RunWithUser(session, [&](QDialog& window) {
-      EXPECT_TRUE(window.screen()->availableGeometry().contains(window.geometry())) << x;
+      EXPECT_TRUE(window.screen()->availableGeometry().contains(window.geometry()))
+          << session.layout.x;
     });
   }
 }
