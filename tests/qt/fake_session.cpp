@@ -39,11 +39,6 @@ void FakeSession::Start(DialogWindow& dialog) {
   if (on_start) on_start();
 }
 
-ControlSession* FakeSession::Page(int tab_control, int tab) {
-  const auto found = pages.find({tab_control, tab});
-  return found == pages.end() ? nullptr : found->second;
-}
-
 void FakeSession::Focus(int id) {
   if (layout.focus == id) return;
   layout.focus = id;

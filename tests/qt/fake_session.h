@@ -4,7 +4,6 @@
 #define ORRERYUI_TESTS_QT_FAKE_SESSION_H_
 
 #include <functional>
-#include <map>
 #include <string>
 #include <utility>
 #include <vector>
@@ -19,7 +18,6 @@ class FakeSession : public DialogSession {
 
   DialogLayout layout{700, "試験", Placement::kCentred, 0, 0, 200, 150, kNoControlId};
   std::vector<ControlView> controls;
-  std::map<std::pair<int, int>, ControlSession*> pages;
   Gestures gestures;  // such as "click 3", without "paint"
   int paints = 0;
   bool ended = false;
@@ -46,7 +44,7 @@ class FakeSession : public DialogSession {
   DialogLayout Layout() const override { return layout; }
   int ControlCount() const override { return int(controls.size()); }
   ControlView Control(int index) const override { return controls.at(std::size_t(index)); }
-  ControlSession* Page(int tab_control, int tab) override;
+  ControlSession* Page(int, int) override { return nullptr; }
   void Focus(int id) override;
   void Click(int id) override;
   TypedText Type(int id, const std::string& text) override;

@@ -44,4 +44,12 @@ void ExpectRoomForTitle(const QGroupBox& box) {
   EXPECT_LE(text.width(), place.width()) << box.title().toStdString();
 }
 
+void ExpectRoomForControls(const QWidget& page) {
+  for (const QWidget* control :
+       page.findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly)) {
+    EXPECT_TRUE(page.rect().contains(control->geometry()))
+        << control->objectName().toStdString() << " on " << page.objectName().toStdString();
+  }
+}
+
 }  // namespace orreryui

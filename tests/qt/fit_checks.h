@@ -17,6 +17,9 @@ void ExpectRoomForText(const QLabel& label);
 
 void ExpectRoomForTitle(const QGroupBox& box);
 
+// All of them lie inside the page, whose size is what the bar leaves of the tab control.
+void ExpectRoomForControls(const QWidget& page);
+
 }  // namespace orreryui
 
 #endif  // ORRERYUI_TESTS_QT_FIT_CHECKS_H_

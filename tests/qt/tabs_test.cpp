@@ -1,79 +1,114 @@
-#include <gmock/gmock.h>
+// A sheet with pages on the screen.
+#include <gtest/gtest.h>
 
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTabBar>
 #include <QTest>
+#include <utility>
 
+#include "platform/dialogs/dialog.h"
+#include "platform/dialogs/front_end_loader.h"
+#include "platform/strings/japanese_literal.h"
+#include "tests/qt/fit_checks.h"
 #include "tests/qt/plugin.h"
 
 namespace orreryui {
 namespace {
 
-using testing::ElementsAre;
+constexpr int kTabs = 1149, kName = 20, kMesh = 21, kFacility = 30;
 
-class Tabs : public testing::Test {
- protected:
-  Tabs() {
-    ControlView& tab = sheet_.Add(ControlKind::kTab, 1149, {}, 100);
-    tab.rows = {{"地名"}, {"施設"}};
-    tab.selection = 0;
-    sheet_.Add(ControlKind::kPushButton, 1, "検索");
-    sheet_.layout.focus = 1149;
-    names_.layout.number = 171;
-    names_.Add(ControlKind::kEdit, 20, "川");
-    facilities_.layout.number = 174;
-    facilities_.Add(ControlKind::kEdit, 30);
-    sheet_.pages = {{{1149, 0}, &names_}, {{1149, 1}, &facilities_}};
+constexpr const char* kCaptions[] = {"地名"_sj, "施設"_sj};
+constexpr ControlTemplate kSheetControls[] = {
+    {ControlKind::kTab, kTabs, "", {6, 6, 188, 60}, kPlain, kCaptions},
+    {ControlKind::kPushButton, IDOK, "検索"_sj, {6, 72, 60, 14}, kDefaultButton},
+    {ControlKind::kPushButton, IDCANCEL, "ｷｬﾝｾﾙ"_sj, {72, 72, 60, 14}}};
+constexpr DialogTemplate kSheet = {170, "", Placement::kCentred, 0, 0, 200, 92, kSheetControls};
+constexpr ControlTemplate kNameControls[] = {{ControlKind::kEdit, kName, "川"_sj, {4, 4, 90, 12}},
+                                             {ControlKind::kEdit, kMesh, "", {4, 22, 90, 12}}};
+constexpr DialogTemplate kNames = {171, "", Placement::kCentred, 0, 0, 180, 38, kNameControls};
+constexpr ControlTemplate kFacilityControls[] = {
+    {ControlKind::kEdit, kFacility, "", {4, 4, 90, 12}}};
+constexpr DialogTemplate kFacilities = {174, "", Placement::kCentred, 0, 0,
+                                        180, 38, kFacilityControls};
+
+// Sheet and pages write down clicks and focuses that are lost, in one log.
+class Recorder : public CDialog {
+ public:
+  Recorder(const DialogTemplate& shown, std::string& log) : CDialog(shown), log_(log) {}
+
+ private:
+  bool OnMessage(int id, Event event) override {
+    if (event == Event::kClick) log_ += std::to_string(id) + " click; ";
+    if (event == Event::kFocusLost) log_ += std::to_string(id) + " lost; ";
+    return CDialog::OnMessage(id, event);
   }
 
-  FakeSession sheet_;
-  FakeSession names_;
-  FakeSession facilities_;
+  std::string& log_;
 };
 
-TEST_F(Tabs, OnlyTheSelectedPageIsShown) {
-  RunWithUser(sheet_, [&](QDialog& window) {
-    auto& bar = ControlWidget<QTabBar>(window, 1149);
-    EXPECT_TRUE(ControlWidget<QWidget>(window, 171).isVisible());
-    EXPECT_FALSE(ControlWidget<QWidget>(window, 174).isVisible());
+class Sheet : public Recorder {
+ public:
+  explicit Sheet(bool is_late) : Recorder(kSheet, log), is_late_(is_late) {}
+
+  std::string log;
+  Recorder names{kNames, log};
+
+ private:
+  void OnInitDialog() override {
+    SetCurSel(kTabs, 0);
+    SetFocus(IDOK);
+    if (!is_late_) AddPages();
+  }
+  void OnPaint() override {
+    if (std::exchange(is_late_, false)) AddPages();
+  }
+  void AddPages() {
+    names.CreatePage(*this, kTabs, 0);
+    facilities_.CreatePage(*this, kTabs, 1);
+  }
+  void OnOK() override {}
+
+  bool is_late_;  // the pages come at the first paint
+  Recorder facilities_{kFacilities, log};
+};
+
+class Tabs : public testing::TestWithParam<bool> {};
+
+TEST_P(Tabs, APageIsPartOfItsSheet) {
+  const ScopedFrontEnd screen(LoadFrontEnd());
+  Sheet sheet(GetParam());
+  ThenInFront([&](QWidget& front) {
+    auto& bar = ControlWidget<QTabBar>(front, kTabs);
+    auto& name = ControlWidget<QLineEdit>(front, kName);
+    const auto press = [&](Qt::Key key) { QTest::keyClick(front.focusWidget(), key); };
+    for (const int id : {IDCANCEL, kTabs, kName, kMesh, IDOK, IDCANCEL, kTabs, kName}) {
+      press(Qt::Key_Tab);
+      EXPECT_EQ(front.focusWidget()->objectName(), QString::number(id));
+    }
+    sheet.log.clear();
+    name.end(false);
+    QTest::keyClicks(&name, "1");
+    press(Qt::Key_Return);
+    EXPECT_EQ(sheet.log, "1 click; ");
+    EXPECT_EQ(sheet.names.GetDlgItemText(kName), "川1"_sj);
+    EXPECT_TRUE(name.hasFocus());
+    QTest::mouseClick(&ControlWidget<QPushButton>(front, IDOK), Qt::LeftButton);
+    EXPECT_EQ(sheet.log, "1 click; 20 lost; 1 click; ");
+    sheet.names.SetDlgItemText(kName, "山"_sj);
     QTest::mouseClick(&bar, Qt::LeftButton, {}, bar.tabRect(1).center());
-    EXPECT_THAT(sheet_.Take(), ElementsAre("pick 1149 1"));
-    EXPECT_FALSE(ControlWidget<QWidget>(window, 171).isVisible());
-    EXPECT_TRUE(ControlWidget<QWidget>(window, 174).isVisible());
-    EXPECT_NE(names_.window, nullptr);
-    EXPECT_NE(names_.window, facilities_.window);
+    EXPECT_EQ(name.text(), "山");
+    EXPECT_FALSE(ControlWidget<QWidget>(front, 171).isVisible());
+    EXPECT_TRUE(ControlWidget<QWidget>(front, 174).isVisible());
+    for (const int page : {171, 174}) ExpectRoomForControls(ControlWidget<QWidget>(front, page));
+    press(Qt::Key_Tab);
+    EXPECT_TRUE(ControlWidget<QLineEdit>(front, kFacility).hasFocus());
+    press(Qt::Key_Escape);
   });
+  EXPECT_EQ(sheet.DoModal(), IDCANCEL);
 }
 
-TEST_F(Tabs, ControlsOfAPageReportToThePageAndKeysToTheSheet) {
-  RunWithUser(sheet_, [&](QDialog& window) {
-    auto& edit = ControlWidget<QLineEdit>(window, 20);
-    QTest::keyClick(window.focusWidget(), Qt::Key_Tab);
-    EXPECT_TRUE(edit.hasFocus());
-    edit.end(false);
-    QTest::keyClicks(&edit, "1");
-    QTest::keyClick(&edit, Qt::Key_Return);
-    EXPECT_THAT(names_.Take(), ElementsAre("focus 20", "type 20 川1"));
-    EXPECT_THAT(sheet_.Take(), ElementsAre("enter"));
-    names_.Change(20, [](ControlView& view) { view.text = "山"; });
-    EXPECT_EQ(edit.text(), "山");
-    QTest::keyClick(&edit, Qt::Key_Tab);
-    EXPECT_THAT(sheet_.Take(), ElementsAre("focus 1"));
-  });
-}
-
-TEST_F(Tabs, APageMayComeIntoBeingAtTheFirstPaint) {
-  const auto pages = std::exchange(sheet_.pages, {});
-  sheet_.handler = [&](const std::string& gesture) {
-    if (gesture == "paint") sheet_.pages = pages;
-  };
-  RunWithUser(sheet_, [&](QDialog& window) {
-    EXPECT_EQ(ControlWidget<QLineEdit>(window, 20).text(), "川");
-    EXPECT_TRUE(ControlWidget<QLineEdit>(window, 20).isVisible());
-    EXPECT_FALSE(ControlWidget<QLineEdit>(window, 30).isVisible());
-  });
-}
+INSTANTIATE_TEST_SUITE_P(EarlyAndLatePages, Tabs, testing::Bool());
 
 }  // namespace
 }  // namespace orreryui
