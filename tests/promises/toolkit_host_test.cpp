@@ -65,15 +65,6 @@ TEST_F(ToolkitHost, CallsFromInsideItsLoop) {
   EXPECT_EQ(answer, -1);
 }
 
-TEST_F(ToolkitHost, QuitsWhileADialogIsOpen) {
-  QApplication application(arguments_.count, arguments_.values);
-  const User user([](QWidget&) { QCoreApplication::quit(); });
-  int answer = 0;
-  QTimer::singleShot(0, [&answer] { answer = Confirm(); });
-  EXPECT_EQ(QCoreApplication::exec(), 0);
-  EXPECT_EQ(answer, -1);
-}
-
 TEST_F(ToolkitHost, CallsWhileADialogIsOpen) {
   QApplication application(arguments_.count, arguments_.values);
   const User user([](QWidget& dialog) {

@@ -72,23 +72,5 @@ TEST_F(AlbumUpdateOnScreen, NothingReachesTheDialogWhileTheEditorRuns) {
   EXPECT_EQ(result, "0|2|鎌倉 35.3 139.5 駅 ");
 }
 
-TEST_F(AlbumUpdateOnScreen, RowsShowTheirFieldsAndOkTakesTheBoxes) {
-  folder_.Write(kAlbum, std::string("大仏 1 2 青銅 p.jpg\r\n長谷寺 1 2 観音 q.jpg\r\n"_sj));
-  EXPECT_EQ(Call([](QWidget& dialog) {
-              PickRow(dialog, 1);
-              EXPECT_EQ(Text(dialog, 106), "長谷寺");
-              auto& list = ControlWidget<QListWidget>(dialog, 128);
-              QTest::keyClick(&list, Qt::Key_Up);
-              EXPECT_EQ(Text(dialog, 106), "大仏");
-              auto& place = ControlWidget<QPlainTextEdit>(dialog, 129);
-              place.selectAll();
-              QTest::keyClicks(&place, "Hase");
-              Click(dialog, 1);
-            }),
-            "7|1|Hase 35.3 139.5 駅 ");
-  EXPECT_EQ(Call([](QWidget& dialog) { QTest::keyClick(&dialog, Qt::Key_Escape); }), "");
-  EXPECT_EQ(Call([](QWidget& dialog) { Click(dialog, 121); }), "7|3|");
-}
-
 }  // namespace
 }  // namespace orreryui

@@ -86,24 +86,5 @@ TEST_F(Appearance, AColourFromTheChooserGoesIntoTheFileOfThePickedPalette) {
   EXPECT_EQ(folder_.Read("Orbis1.plt"), kRows);
 }
 
-TEST_F(Appearance, APrefectureFromTheMapEndsTheMapTypeDialog) {
-  std::string region = "1|";
-  for (int slot = 1; slot < 48; ++slot) region += "0|";
-  ThenInFront([](QWidget& dialog) {
-    ThenInFront([](QWidget& map) {
-      EXPECT_TRUE(ControlWidget<QAbstractButton>(map, 1484).isChecked());
-      Click(map, 1484 + 13);
-      EXPECT_FALSE(ControlWidget<QAbstractButton>(map, 1484).isChecked());
-      EXPECT_TRUE(ControlWidget<QAbstractButton>(map, 1484 + 13).isChecked());
-      Click(map, 1);
-    });
-    Click(dialog, 1006);
-  });
-  const CString result = OnMapTypeSet(0, 1, 1, 0, 0, folder_.Argument(), (region + "1").c_str());
-  std::string tokyo;
-  for (int slot = 0; slot < 48; ++slot) tokyo += slot == 13 ? "1|" : "0|";
-  EXPECT_EQ(std::string(result), "1|0|3|1|0|0|1|0|0|0|" + tokyo + "1");
-}
-
 }  // namespace
 }  // namespace orreryui
