@@ -1,14 +1,7 @@
-#include <gtest/gtest.h>
 #include <orreryui/orreryui.h>
 
-#include <optional>
-
-#include "front_ends/script/script_front_end.h"
-#include "platform/dialogs/front_end_loader.h"
-#include "platform/strings/code_page_932.h"
-#include "platform/strings/japanese_literal.h"
 #include "tests/support/each_fault.h"
-#include "tests/support/test_folder.h"
+#include "tests/support/play.h"
 
 namespace orreryui {
 namespace {
@@ -24,10 +17,8 @@ class AlbumRegistTest : public testing::Test {
   std::string Call() { return CallWith(script, folder.Argument() + kAlbum); }
 
   static std::string CallWith(ScriptFrontEnd& visit, const CString& album) {
-    ScopedFrontEnd scope(&visit);
-    const CString result = OnDLLAlbumRegist(7, "135.0", "35.0", album, "No.12");
-    EXPECT_EQ(visit.Failures(), "");
-    return ToUtf8(result);
+    return ToUtf8(
+        Play(visit, [&] { return OnDLLAlbumRegist(7, "135.0", "35.0", album, "No.12"); }));
   }
 
   static ScriptFrontEnd& Fill(ScriptFrontEnd& visit, const char* memo_1, const char* memo_2,
@@ -70,10 +61,7 @@ TEST_F(AlbumRegistTest, EachAdditionIsInTheFileAtOnce) {
   Fill(script, "m1", "", "t.txt", "表.JPG").Click(117).Shows(1045, "3").Shows(105, "35.5");
   Fill(script, "m 1", "m2", "", "p.gif").Click(117).Shows(1045, "4");
   std::optional<std::string> before_the_end;
-  script.Does([&](ControlSession&) -> std::string {
-    before_the_end = folder.Read(kAlbum);
-    return "";
-  });
+  script.Does(Silently([&] { before_the_end = folder.Read(kAlbum); }));
   script.Click(1047);
   EXPECT_EQ(Call(), kGivenUp);
   const std::string lines =
@@ -203,10 +191,7 @@ TEST_F(AlbumRegistTest, AnAdditionThatCannotBeWrittenCanBeTriedAgain) {
 TEST_F(AlbumRegistTest, AnAlbumThatVanishedMeanwhileIsNotStartedAnew) {
   script.Type(101, "p");
   Fill(script, "m", "n", "t", "").Click(117);
-  script.Does([&](ControlSession&) -> std::string {
-    std::filesystem::remove(folder.Path() / kAlbum);
-    return "";
-  });
+  script.Does(Silently([&] { std::filesystem::remove(folder.Path() / kAlbum); }));
   Fill(script, "m2", "n", "t", "").Click(117).Shows(1045, "2").Shows(106, "m2").Click(1);
   Call();
   EXPECT_EQ(folder.Read(kAlbum), std::nullopt);
