@@ -56,16 +56,6 @@ TEST_F(RegionDialogTest, SeveralMayBeDown) {
   EXPECT_EQ(SlotsOn(), (std::vector<int>{1, 47}));
 }
 
-TEST_F(RegionDialogTest, TheWholePutsAllOthersOffAndStaysDown) {
-  script.Click(kIwate).Click(kTokyo).Click(kWhole);
-  ShowsDown({kWhole});
-  script.Click(kWhole);
-  ShowsDown({kWhole});
-  script.Enter();
-  EXPECT_EQ(Run(), IDOK);
-  EXPECT_EQ(SlotsOn(), std::vector<int>{0});
-}
-
 TEST_F(RegionDialogTest, OneMayBeDownAlone) {
   dialog.m_nSingle = 1;
   dialog.m_nState[1] = dialog.m_nState[2] = 1;
@@ -104,16 +94,6 @@ TEST_F(RegionDialogTest, OtherNumbersAreUpAndAClickMakesThemZero) {
   ShowsDown({kWhole});
   script.Click(2);
   EXPECT_EQ(Run(), IDCANCEL);
-}
-
-TEST_F(RegionDialogTest, NumbersThatAddUpToNothingTurnTheWholeOn) {
-  dialog.m_nState[3] = -1;
-  dialog.m_nState[13] = dialog.m_nState[7] = 1;
-  script.Click(kFukushima);
-  ShowsDown({kWhole});
-  script.Click(1);
-  EXPECT_EQ(Run(), IDOK);
-  EXPECT_EQ(SlotsOn(), std::vector<int>{0});
 }
 
 }  // namespace
