@@ -1,7 +1,5 @@
 #include <orreryui/orreryui.h>
-#include <sys/stat.h>
 
-#include "tests/support/faulty_file_system.h"
 #include "tests/support/play.h"
 
 namespace orreryui {
@@ -29,15 +27,6 @@ class AlbumUpdateTest : public testing::Test {
       return OnAlbumUpdate(code, state, album, "鎌倉"_sj, "寺 社"_sj, "139.5", "35.3",
                            editor.c_str());
     }));
-  }
-
-  std::string PathOf(const std::string& name) const { return (folder.Path() / name).string(); }
-
-  // A program that does these commands with the path of the album as $1.
-  std::string MakeEditor(const std::string& name, const std::string& commands) const {
-    folder.Write(name, "#!/bin/sh\n" + commands + "\n");
-    EXPECT_EQ(chmod(PathOf(name).c_str(), 0755), 0);
-    return PathOf(name);
   }
 
   TestFolder folder;
@@ -95,17 +84,9 @@ TEST_F(AlbumUpdateTest, OkReadsTheFourBoxesOfThePointAndNoOther) {
   EXPECT_EQ(folder.Read(kAlbum), "p 1 2 i f.txt\r\n");
 }
 
-TEST_F(AlbumUpdateTest, EnterEndsInTheOneLineBoxesAndBreaksLinesInTheOthers) {
-  ScriptFrontEnd script;
-  script.OpensDialog(147);
-  for (const int id : {129, 130, 132, 1000, 106, 104}) script.Focus(id).Enter();
-  script.Shows(106, "\r\n").Focus(105).Enter();
-  EXPECT_EQ(Call(script), "7|1|鎌倉\r\n 35.3\r\n 139.5\r\n 寺 社\r\n ");
-}
-
 TEST_F(AlbumUpdateTest, ARowShowsItsFieldsAndThePreviewItsText) {
   folder.Write("t.txt", "main\r\n999\r\n");
-  const std::string path = PathOf("t.txt");
+  const std::string path = folder.PathOf("t.txt");
   const std::string cut = std::string(190, 'c') + "\x82";  // ends at the longest line's end
   folder.Write(kAlbum, std::string("ァー 1 2 ァ表 P.JPG "_sj) + path +
                            "\r\n;c\r\n\r\nMt 1 2 i t\r\n" +
@@ -149,29 +130,19 @@ TEST_F(AlbumUpdateTest, ANewAlbumIsEmptyFromTheStart) {
             "0|2|鎌倉 35.3 139.5 寺 社 ");
 }
 
-TEST_F(AlbumUpdateTest, AnAlbumThatCannotBeEmptiedKeepsItsLines) {
-  folder.Write(kAlbum, Lines(1, 2));
-  FaultyFileSystem disk(1);
-  ScopedFileSystem scope(disk);
-  ScriptFrontEnd script;
-  script.OpensDialog(147).Shows(131, "   件").ShowsRows(128, {}).Escape();
-  EXPECT_EQ(Call(script, 7, "new"), "");
-  EXPECT_EQ(folder.Read(kAlbum), Lines(1, 2));
-}
-
 TEST_F(AlbumUpdateTest, AnAlbumThatCannotBeReadIsEmptyAndCanBeEdited) {
-  const std::string editor = MakeEditor("ed", "echo > '" + PathOf("ran") + "'");
+  const std::string editor = folder.WriteProgram("ed", "echo > '" + folder.PathOf("ran") + "'");
   for (const CString& album : {folder.Argument(), CString(), folder.Argument() + "none"}) {
     ScriptFrontEnd script;
     script.OpensDialog(147).Shows(131, "0件").Click(1076).Escape();
     EXPECT_EQ(CallWith(script, 7, "old", album, editor), "");
-    EXPECT_EQ(std::filesystem::remove(PathOf("ran")), !album.IsEmpty()) << album;
+    EXPECT_EQ(std::filesystem::remove(folder.PathOf("ran")), !album.IsEmpty()) << album;
   }
 }
 
 TEST_F(AlbumUpdateTest, TheEditorsChangesAreKeptAndShownAtTheNextCall) {
   folder.Write(kAlbum, Lines(1, 2));
-  const std::string editor = MakeEditor("my ed", "printf 'new 1 2 i f.txt\\n' > \"$1\"");
+  const std::string editor = folder.WriteProgram("my ed", "printf 'new 1 2 i f.txt\\n' > \"$1\"");
   ScriptFrontEnd script, next;
   script.OpensDialog(147).Pick(128, 1).Click(1076).ShowsRows(128, {"p1#i", "p2#i"});
   script.Shows(131, "2/2").Shows(106, "p2").Pick(128, 0).Shows(106, "p1").Escape();

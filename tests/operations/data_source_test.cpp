@@ -134,17 +134,6 @@ TEST_F(DataSourceTest, AListThatCouldNotBeReadTakesNoNameAndLosesNone) {
   });
 }
 
-TEST_F(DataSourceTest, StrangeBytesAreShownAndKept) {
-  const std::string bytes =
-      std::string("a\0b\r\n", 5) + "\x81\r\n" + "\xFF\x80\r\n" + "x\x85\x40\r\n";
-  folder.Write(kList, bytes + "last\r\n");
-  script.ShowsRows(135, {kCommonArea, "a", "\uFFFD", "\uF8F3\u0080", "x\uFFFD", "last"});
-  script.Pick(135, 5).Click(109).Pick(135, 4).Click(1);
-  const auto call = [&] { return OnDataSourceSet(0, "off", folder.Argument()); };
-  EXPECT_EQ(Play(script, call), "4|off|x\x85\x40");
-  EXPECT_EQ(folder.Read(kList), "a\r\n\x81\r\n\xFF\x80\r\nx\x85\x40\r\n");
-}
-
 TEST_F(DataSourceTest, AFullListTakesNoNameAndLosesNone) {
   folder.Write(kList, Lines(1, 5000));
   script.Shows(1048, "100/100").Type(101, "one more").Click(103).Shows(101, "one more");

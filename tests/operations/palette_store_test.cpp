@@ -1,6 +1,4 @@
 // The palette editor on its files: register, update, delete, edit.
-#include <sys/stat.h>
-
 #include "appearance/palette_list.h"
 #include "tests/operations/palette_fixture.h"
 #include "tests/support/each_fault.h"
@@ -90,16 +88,6 @@ TEST_F(PaletteTest, TheNineteenthPaletteIsTheLast) {
   script.ShowsMessage(kListFull, kOk).Shows(kNames, "one more").Click(1);
   EXPECT_EQ(Call(18), "18|0|0|0|1|2|3|4|5|6|");
   EXPECT_EQ(folder.Read(kList), List(18) + "nineteenth$Orbis19.plt\r\n");
-}
-
-TEST_F(PaletteTest, WithoutAListNothingIsRegistered) {
-  std::filesystem::remove_all(folder.Path() / kList);
-  script.ShowsRows(kNames, {kNew}).Type(kNames, "x").Click(kEdit).ShowsMessage(kAskRegister, kOk);
-  script.ShowsRows(kNames, {kNew}).Shows(kNames, "x").Click(1);
-  EXPECT_EQ(Call(0), "0|0|0|0|1|2|3|4|5|6|");
-  EXPECT_EQ(folder.Read(kList), std::nullopt);
-  EXPECT_EQ(folder.Read("Orbis1.plt"), Text(kNatural));
-  EXPECT_EQ(folder.Read("Orbis3.plt"), std::nullopt);
 }
 
 TEST_F(PaletteTest, AnUpdateReplacesTheFileOnceItIsConfirmed) {
@@ -281,9 +269,7 @@ TEST_F(FailingDiskTest, WhatTheDiskRefusesHasNoEffect) {
 }
 
 TEST_F(PaletteTest, WithNothingPendingTheEditorOpensTheFileOfTheChosenRow) {
-  const std::string program = (folder.Path() / "editor").string();
-  folder.Write("editor", "#!/bin/sh\necho ' 100   7   7   7' > \"$1\"\n");
-  chmod(program.c_str(), 0755);
+  const std::string program = folder.WriteProgram("editor", "echo ' 100   7   7   7' > \"$1\"");
   // A lake colour lies in no file, so that it leaves nothing pending.
   script.Click(Swatch(11)).ChoosesColour(kLake, 9u).Shows(kEdit, "更新").Pick(kNames, 1);
   script.Click(kEdit).Click(Swatch(11)).ChoosesColour(9, kLake);

@@ -107,21 +107,6 @@ TEST_F(ViewersTest, WhatCannotBeReadIsEmpty) {
   }
 }
 
-TEST_F(ViewersTest, BothBoxesHaveAScrollBarAtAllTimes) {
-  const auto has_scroll_bar = [](int id) {
-    return [id](ControlSession& session) {
-      return ControlOf(session, id).tall_scroll_bar ? "" : "no scroll bar";
-    };
-  };
-  ScriptFrontEnd script;
-  script.OpensDialog(152).Does(has_scroll_bar(1050)).Escape();
-  script.OpensDialog(133).Does(has_scroll_bar(101)).Escape();
-  Play(script, [] {
-    OnTextDisplayDaialog("", "", "");
-    OnMemoDisplay(0, 0, "", "");
-  });
-}
-
 TEST_F(ViewersTest, AnyOtherModeShowsTheTextOfTheCaller) {
   folder.Write(kFile, "a\n999\nb");
   const std::string text = "メモ|%s\n999\r\n";

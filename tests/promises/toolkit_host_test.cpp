@@ -100,11 +100,5 @@ TEST_F(ToolkitHost, CallsFromAThreadThatIsNotTheApplications) {
   std::thread(ExpectNoDialog).join();
 }
 
-TEST_F(ToolkitHost, AThousandTimes) {
-  QApplication application(arguments_.count, arguments_.values);
-  const User user(User::PressEscape);
-  ExpectBounded([] { EXPECT_EQ(OnRengeConfirm("1", "2", "3", "4"), -1); });
-}
-
 }  // namespace
 }  // namespace orreryui

@@ -1,7 +1,6 @@
 // An album on the screen, from the file that an editor rewrites to the point that the user changes.
 #include <gtest/gtest.h>
 #include <orreryui/orreryui.h>
-#include <sys/stat.h>
 
 #include <QListWidget>
 #include <QPlainTextEdit>
@@ -48,12 +47,10 @@ class AlbumUpdateOnScreen : public testing::Test {
 TEST_F(AlbumUpdateOnScreen, NothingReachesTheDialogWhileTheEditorRuns) {
   folder_.Write(kAlbum, std::string("大仏 1 2 青銅 a.txt\r\n長谷寺 1 2 \r\n"_sj));
   // Waits until the keys below have been pressed.
-  folder_.Write("ed",
-                "#!/bin/sh\n"
-                "while [ ! -e \"$(dirname \"$0\")/pressed\" ]; do sleep 0.01; done\n"
-                "echo 'new 1 2 i' > \"$1\"\n");
-  const std::string editor = (folder_.Path() / "ed").string();
-  ASSERT_EQ(chmod(editor.c_str(), 0755), 0);
+  const std::string editor =
+      folder_.WriteProgram("ed",
+                           "while [ ! -e \"$(dirname \"$0\")/pressed\" ]; do sleep 0.01; done\n"
+                           "echo 'new 1 2 i' > \"$1\"");
   const std::string result = Call(
       [&](QWidget& dialog) {
         PickRow(dialog, 0);
