@@ -4,7 +4,6 @@
 #include <gtest/gtest.h>
 
 #include <QDialog>
-#include <QListWidget>
 #include <QPushButton>
 #include <QTemporaryDir>
 

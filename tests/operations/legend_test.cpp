@@ -1,7 +1,4 @@
 #include <orreryui/orreryui.h>
-#include <map>
-
-#include "templates/legend.h"
 #include "tests/operations/swatches.h"
 #include "tests/support/play.h"
 
