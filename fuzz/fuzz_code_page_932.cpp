@@ -1,20 +1,13 @@
 // Any bytes decode, what was encoded comes back unchanged, and an edit box that nobody edited keeps
 // its bytes.
-#include <cstddef>
-#include <cstdint>
-#include <cstdlib>
 #include <string>
-#include <string_view>
 
+#include "fuzz/input.h"
 #include "platform/strings/code_page_932.h"
 
 namespace {
 
 using orreryui::Encoded;
-
-void Require(bool condition) {
-  if (!condition) std::abort();
-}
 
 void CheckBytes(std::string_view bytes) {
   const std::string text = orreryui::ToUtf8(bytes);
@@ -59,13 +52,11 @@ void CheckEdit(std::string_view old_bytes, std::string_view typed) {
 
 }  // namespace
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  const std::string_view input(reinterpret_cast<const char*>(data), size);
+void Check(std::string_view input) {
   CheckBytes(input);
   CheckText(input);
-  const std::size_t half = size / 2;
+  const std::size_t half = input.size() / 2;
   CheckEdit(input.substr(0, half), input.substr(half));
   CheckEdit(input.substr(0, half),
             orreryui::ToUtf8(input.substr(0, half)).append(input.substr(half)));
-  return 0;
 }

@@ -1,20 +1,14 @@
 // Any line packs and any packed point unpacks. No byte of a line is lost on the way, and a line
 // that holds no separator of the packed form comes back field by field.
-#include <cstddef>
-#include <cstdint>
-#include <cstdlib>
 #include <string>
 
+#include "fuzz/input.h"
 #include "points/packed_point.h"
 
 namespace {
 
 using orreryui::CString;
 using orreryui::DataLine;
-
-void Require(bool condition) {
-  if (!condition) std::abort();
-}
 
 int Count(const CString& text, char byte) {
   int count = 0;
@@ -54,11 +48,9 @@ void CheckLine(const CString& line) {
 
 }  // namespace
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  const std::string bytes(reinterpret_cast<const char*>(data), size);
-  const CString text = bytes.c_str();
+void Check(std::string_view input) {
+  const CString text = std::string(input).c_str();
   CheckLine(text);
   orreryui::UnpackPoint(text);
   orreryui::PointLabel(text);
-  return 0;
 }

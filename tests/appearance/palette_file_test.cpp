@@ -142,22 +142,5 @@ TEST_F(PaletteFileTest, WritesEachByteAtItsPlace) {
                         "4000   0   0   0     4,000m\r\n"_sj));
 }
 
-TEST_F(PaletteFileTest, WhatALongNameLeavesOverIsOverwrittenByTheRows) {
-  RowColours written{};
-  for (std::size_t row = 0; row < written.size(); ++row) written[row] = row % 3 == 2 ? 0 : 0x123456;
-  // What a line can't hold comes as a row of its own.
-  for (const char letter : {'n', '1', '-'}) {
-    const std::string name(150, letter);
-    folder.Write(kFile, PaletteText(Path(), name.c_str(), written));
-    const LevelColours exact = ExactColours(ReadPalette(Path()));
-    const LevelColours blended = InterpolatedColours(ReadPalette(Path()));
-    for (std::size_t row = 0; row < written.size(); ++row) {
-      const auto level = static_cast<std::size_t>(LevelOf(kRowElevations[row]));
-      EXPECT_EQ(exact[level], written[row]) << letter << row;
-      EXPECT_EQ(blended[level], 0x123456u) << letter << row;
-    }
-  }
-}
-
 }  // namespace
 }  // namespace orreryui

@@ -42,15 +42,5 @@ TEST(RegionMapTest, ButtonsTouchExactlyWherePrefecturesDo) {
   EXPECT_EQ(found, kBorders);
 }
 
-TEST(RegionMapTest, EveryButtonHasRoomForItsLabel) {
-  constexpr int kMargins = 10;
-  for (const ControlTemplate& control : region::kControls) {
-    if (control.kind != ControlKind::kPushLikeCheckBox) continue;
-    const int text_width = static_cast<int>(std::string(control.text).size()) * 4;
-    EXPECT_GE(control.place.width, text_width + kMargins) << control.id;
-    EXPECT_GE(control.place.height, 16) << control.id;
-  }
-}
-
 }  // namespace
 }  // namespace orreryui

@@ -1,19 +1,11 @@
 // Every template is well made.
-#include <gtest/gtest.h>
-
 #include <algorithm>
-#include <ostream>
 #include <set>
 #include <vector>
 
-#include "templates/all.h"
+#include "tests/support/each_template.h"
 
 namespace orreryui {
-
-void PrintTo(const DialogTemplate* dialog_template, std::ostream* out) {
-  *out << "template " << dialog_template->number;
-}
-
 namespace {
 
 bool Overlap(const DialogRect& a, const DialogRect& b) {
@@ -64,10 +56,6 @@ TEST_P(TemplateTest, RadioButtonsStandInGroupsThatBegin) {
     }
     before = control.kind;
   }
-}
-
-std::string NumberOf(const testing::TestParamInfo<const DialogTemplate*>& entry) {
-  return std::to_string(entry.param->number);
 }
 
 INSTANTIATE_TEST_SUITE_P(All, TemplateTest, testing::ValuesIn(kAllTemplates), NumberOf);

@@ -1,7 +1,6 @@
 #include "platform/system/command_line.h"
 
 #include <gtest/gtest.h>
-#include <sys/stat.h>
 
 #include <string>
 #include <vector>
@@ -16,11 +15,9 @@ using Arguments = std::vector<std::string>;
 
 class CommandLineTest : public testing::Test {
  protected:
-  std::string PathOf(const std::string& name) const { return (folder_.Path() / name).string(); }
   void MakeProgram(const std::string& name) const {
     std::filesystem::create_directories((folder_.Path() / name).parent_path());
-    folder_.Write(name, "");
-    ASSERT_EQ(chmod(PathOf(name).c_str(), 0755), 0);
+    folder_.WriteProgram(name, "");
   }
   Arguments ArgumentsOf(const std::string& text) const {
     const auto command = ParseCommandLine("sh" + text);
@@ -31,8 +28,8 @@ class CommandLineTest : public testing::Test {
 
 TEST_F(CommandLineTest, FindsTheProgram) {
   MakeProgram("Program Files/My Editor/ed");
-  const std::string program = PathOf("Program Files/My Editor/ed");
-  const std::string spelled = "C:" + PathOf("program files\\my editor\\ED");
+  const std::string program = folder_.PathOf("Program Files/My Editor/ed");
+  const std::string spelled = "C:" + folder_.PathOf("program files\\my editor\\ED");
   for (const std::string& line :
        {spelled + " -x", " \t" + spelled + "\t-x", '"' + spelled + "\" -x"}) {
     const auto command = ParseCommandLine(line);
@@ -45,8 +42,8 @@ TEST_F(CommandLineTest, FindsTheProgram) {
 TEST_F(CommandLineTest, TheShorterProgramComesFirst) {
   MakeProgram("a");
   MakeProgram("a b");
-  EXPECT_EQ(ParseCommandLine(PathOf("a b"))->program, PathOf("a"));
-  EXPECT_EQ(ParseCommandLine('"' + PathOf("a b") + "\"")->program, PathOf("a b"));
+  EXPECT_EQ(ParseCommandLine(folder_.PathOf("a b"))->program, folder_.PathOf("a"));
+  EXPECT_EQ(ParseCommandLine('"' + folder_.PathOf("a b") + "\"")->program, folder_.PathOf("a b"));
 }
 
 TEST_F(CommandLineTest, ABareNameIsLookedForOnThePath) {
@@ -59,9 +56,10 @@ TEST_F(CommandLineTest, ABareNameIsLookedForOnThePath) {
 
 TEST_F(CommandLineTest, WhatIsNoProgramGivesNothing) {
   folder_.Write("text", "");
-  for (const std::string& line : {std::string(), std::string("  "), std::string("\""),
-                                  std::string("\"\" x"), std::string("no-such-program-anywhere x"),
-                                  PathOf("text"), PathOf("missing"), folder_.Path().string()}) {
+  for (const std::string& line :
+       {std::string(), std::string("  "), std::string("\""), std::string("\"\" x"),
+        std::string("no-such-program-anywhere x"), folder_.PathOf("text"),
+        folder_.PathOf("missing"), folder_.Path().string()}) {
     EXPECT_FALSE(ParseCommandLine(line)) << line;
   }
 }
@@ -85,12 +83,14 @@ TEST_F(CommandLineTest, SplitsArguments) {
 TEST_F(CommandLineTest, PathsOfWhatExistsStayWhole) {
   for (const char* name : {"a.txt", "A b.txt", "ルート 表.txt", "x\"y z"}) folder_.Write(name, "");
   const std::string folder = "C:" + folder_.Path().string() + "\\";
-  EXPECT_EQ(ArgumentsOf(" -n " + folder + "a B.TXT "), Arguments({"-n", PathOf("A b.txt")}));
-  EXPECT_EQ(ArgumentsOf(' ' + folder + "a.txt -n"), Arguments({PathOf("a.txt"), "-n"}));
+  EXPECT_EQ(ArgumentsOf(" -n " + folder + "a B.TXT "),
+            Arguments({"-n", folder_.PathOf("A b.txt")}));
+  EXPECT_EQ(ArgumentsOf(' ' + folder + "a.txt -n"), Arguments({folder_.PathOf("a.txt"), "-n"}));
   EXPECT_EQ(ArgumentsOf(' ' + folder + FromUtf8("ルート 表.txt").bytes),
-            Arguments({PathOf("ルート 表.txt")}));
-  EXPECT_EQ(ArgumentsOf(' ' + folder + "x\"y z"), Arguments({PathOf("x\"y z")}));
-  EXPECT_EQ(ArgumentsOf(" \"" + folder + "a b.txt\" x"), Arguments({PathOf("A b.txt"), "x"}));
+            Arguments({folder_.PathOf("ルート 表.txt")}));
+  EXPECT_EQ(ArgumentsOf(' ' + folder + "x\"y z"), Arguments({folder_.PathOf("x\"y z")}));
+  EXPECT_EQ(ArgumentsOf(" \"" + folder + "a b.txt\" x"),
+            Arguments({folder_.PathOf("A b.txt"), "x"}));
 }
 
 }  // namespace

@@ -16,17 +16,16 @@ constexpr char kList[] = "LIST.DAT";
 
 class FileChangesTest : public testing::Test {
  protected:
-  std::string PathOf(const std::string& name) const { return (folder_.Path() / name).string(); }
-  std::string ListPath() const { return PathOf(kList); }
+  std::string ListPath() const { return folder_.PathOf(kList); }
 
   // The first of four leaves, the others move up, and a new one comes behind.
   void AddSteps(FileChanges& changes) const {
-    changes.Remove(PathOf("f1").c_str());
+    changes.Remove(folder_.PathOf("f1").c_str());
     for (int i = 2; i <= 4; ++i) {
-      changes.Rename(PathOf("f" + std::to_string(i)).c_str(),
-                     PathOf("f" + std::to_string(i - 1)).c_str());
+      changes.Rename(folder_.PathOf("f" + std::to_string(i)).c_str(),
+                     folder_.PathOf("f" + std::to_string(i - 1)).c_str());
     }
-    changes.Create(PathOf("f4").c_str(), "e");
+    changes.Create(folder_.PathOf("f4").c_str(), "e");
   }
   bool Change() const {
     FileChanges changes(ListPath().c_str());
@@ -96,7 +95,7 @@ TEST_F(FileChangesTest, ARecoveryCanBeCutOffToo) {
 TEST_F(FileChangesTest, MakesAListThatIsMissing) {
   const auto change = [&] {
     FileChanges changes(ListPath().c_str());
-    changes.Create(PathOf("f").c_str(), "new");
+    changes.Create(folder_.PathOf("f").c_str(), "new");
     return changes.Commit("list");
   };
   const Files after{{kList, "list"}, {"f", "new"}};
@@ -111,22 +110,28 @@ TEST_F(FileChangesTest, MakesAListThatIsMissing) {
 TEST_F(FileChangesTest, WhatCannotBeDoneRefusesTheWholeChange) {
   std::filesystem::create_directory(folder_.Path() / "folder");
   const std::function<void(FileChanges&)> kCases[] = {
-      [&](FileChanges& c) { c.Remove(PathOf("missing").c_str()); },
-      [&](FileChanges& c) { c.Remove(PathOf("folder").c_str()); },
-      [&](FileChanges& c) { c.Remove(PathOf("f1").c_str()), c.Remove(PathOf("f1").c_str()); },
-      [&](FileChanges& c) { c.Rename(PathOf("missing").c_str(), PathOf("x").c_str()); },
-      [&](FileChanges& c) { c.Rename(PathOf("f1").c_str(), PathOf("F2").c_str()); },
-      [&](FileChanges& c) { c.Rename(PathOf("f1").c_str(), PathOf("folder\\x").c_str()); },
-      [&](FileChanges& c) { c.Create(PathOf("F1").c_str(), "x"); },
-      [&](FileChanges& c) { c.Create(PathOf("folder/..").c_str(), "x"); },
-      [&](FileChanges& c) { c.Create(PathOf("a\nb").c_str(), "x"); },
-      [&](FileChanges& c) { c.Remove(PathOf("folder/../f1").c_str()); },
+      [&](FileChanges& c) { c.Remove(folder_.PathOf("missing").c_str()); },
+      [&](FileChanges& c) { c.Remove(folder_.PathOf("folder").c_str()); },
+      [&](FileChanges& c) {
+        c.Remove(folder_.PathOf("f1").c_str()), c.Remove(folder_.PathOf("f1").c_str());
+      },
+      [&](FileChanges& c) {
+        c.Rename(folder_.PathOf("missing").c_str(), folder_.PathOf("x").c_str());
+      },
+      [&](FileChanges& c) { c.Rename(folder_.PathOf("f1").c_str(), folder_.PathOf("F2").c_str()); },
+      [&](FileChanges& c) {
+        c.Rename(folder_.PathOf("f1").c_str(), folder_.PathOf("folder\\x").c_str());
+      },
+      [&](FileChanges& c) { c.Create(folder_.PathOf("F1").c_str(), "x"); },
+      [&](FileChanges& c) { c.Create(folder_.PathOf("folder/..").c_str(), "x"); },
+      [&](FileChanges& c) { c.Create(folder_.PathOf("a\nb").c_str(), "x"); },
+      [&](FileChanges& c) { c.Remove(folder_.PathOf("folder/../f1").c_str()); },
   };
   folder_.Lay(before_);
   std::filesystem::create_directory(folder_.Path() / "folder");
   for (const auto& step : kCases) {
     FileChanges changes(ListPath().c_str());
-    changes.Rename(PathOf("f4").c_str(), PathOf("f5").c_str());
+    changes.Rename(folder_.PathOf("f4").c_str(), folder_.PathOf("f5").c_str());
     step(changes);
     EXPECT_FALSE(changes.Commit("x")) << &step - kCases;
   }
@@ -138,8 +143,8 @@ TEST_F(FileChangesTest, FreesNamesInAnyCase) {
   folder_.Lay({{kList, "ab"}, {"F1", "a"}, {"F2", "b"}});
   {
     FileChanges changes(ListPath().c_str());
-    changes.Remove(PathOf("f1").c_str());
-    changes.Rename(PathOf("f2").c_str(), PathOf("f1").c_str());
+    changes.Remove(folder_.PathOf("f1").c_str());
+    changes.Rename(folder_.PathOf("f2").c_str(), folder_.PathOf("f1").c_str());
     EXPECT_TRUE(changes.Commit("b"));
     EXPECT_EQ(never_synced_.listings(), 1);
   }

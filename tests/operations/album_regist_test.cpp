@@ -1,14 +1,7 @@
-#include <gtest/gtest.h>
 #include <orreryui/orreryui.h>
 
-#include <optional>
-
-#include "front_ends/script/script_front_end.h"
-#include "platform/dialogs/front_end_loader.h"
-#include "platform/strings/code_page_932.h"
-#include "platform/strings/japanese_literal.h"
 #include "tests/support/each_fault.h"
-#include "tests/support/test_folder.h"
+#include "tests/support/play.h"
 
 namespace orreryui {
 namespace {
@@ -24,10 +17,8 @@ class AlbumRegistTest : public testing::Test {
   std::string Call() { return CallWith(script, folder.Argument() + kAlbum); }
 
   static std::string CallWith(ScriptFrontEnd& visit, const CString& album) {
-    ScopedFrontEnd scope(&visit);
-    const CString result = OnDLLAlbumRegist(7, "135.0", "35.0", album, "No.12");
-    EXPECT_EQ(visit.Failures(), "");
-    return ToUtf8(result);
+    return ToUtf8(
+        Play(visit, [&] { return OnDLLAlbumRegist(7, "135.0", "35.0", album, "No.12"); }));
   }
 
   static ScriptFrontEnd& Fill(ScriptFrontEnd& visit, const char* memo_1, const char* memo_2,
@@ -70,10 +61,7 @@ TEST_F(AlbumRegistTest, EachAdditionIsInTheFileAtOnce) {
   Fill(script, "m1", "", "t.txt", "表.JPG").Click(117).Shows(1045, "3").Shows(105, "35.5");
   Fill(script, "m 1", "m2", "", "p.gif").Click(117).Shows(1045, "4");
   std::optional<std::string> before_the_end;
-  script.Does([&](ControlSession&) -> std::string {
-    before_the_end = folder.Read(kAlbum);
-    return "";
-  });
+  script.Does(Silently([&] { before_the_end = folder.Read(kAlbum); }));
   script.Click(1047);
   EXPECT_EQ(Call(), kGivenUp);
   const std::string lines =
@@ -113,11 +101,6 @@ TEST_F(AlbumRegistTest, EnterBreaksLinesInSixBoxesAndEndsInTheOthers) {
   EXPECT_EQ(folder.Read(kAlbum), "\r\n 35.0\r\n 135.0\r\n \r\n t\r\n");
 }
 
-TEST_F(AlbumRegistTest, CharactersThatTheCodePageLacksAreLeftOut) {
-  script.Type(101, "森鷗外𠮟", "鷗𠮟").Shows(101, "森外").Click(1);
-  EXPECT_EQ(Call(), "7|135.0|35.0|森外|");
-}
-
 TEST_F(AlbumRegistTest, ATextFileIsChosenInLowerCaseAndGivingUpEmptiesTheBox) {
   script.Type(101, "p").Type(106, "m").Type(108, "Typed.TXT").Click(109).Beeps();
   script.ChoosesFile("/Home/Ａ表/Notes.TXT").Shows(108, "\\home\\Ａ表\\notes.txt").Click(117);
@@ -145,9 +128,7 @@ TEST_F(AlbumRegistTest, GivingUpThePictureLeavesItsBoxAlone) {
   const FileChooserRequest& request = script.LastFileRequest();
   EXPECT_EQ(request.start_name, "/x/*.bmp") << "the folder of the picture chosen before";
   EXPECT_EQ(request.default_extension, "bmp");
-  ASSERT_EQ(request.filters.size(), 2u);
-  EXPECT_EQ(request.filters[0].label, "画像 files (*.bmp)");
-  EXPECT_EQ(request.filters[0].patterns, std::vector<std::string>{"*.bmp"});
+  EXPECT_EQ(request.filters.at(0).label, "画像 files (*.bmp)");
 }
 
 TEST_F(AlbumRegistTest, APathThatTheCodePageCannotTellBeepsAndCountsAsGivenUp) {
@@ -166,13 +147,6 @@ TEST_F(AlbumRegistTest, ThePreviewShowsTheFileThatTheFieldHolds) {
   script.Type(101, "p").Type(106, "m").Click(117).Shows(108, "").Click(114);
   script.OpensDialog(133).Shows(102, path).Escape().Focus(108).Click(114).Click(1);
   EXPECT_EQ(Call(), "7|135.0|35.0|p|");
-}
-
-TEST_F(AlbumRegistTest, AFolderThatIsMissingRefusesTheAddition) {
-  script.Type(101, "p");
-  Fill(script, "m", "n", "t", "").Click(117).Shows(1045, "1").Shows(106, "m").Shows(108, "t");
-  script.Click(1);
-  EXPECT_EQ(CallWith(script, folder.Argument() + "none\\a.alb"), "7|135.0|35.0|p|");
 }
 
 TEST_F(AlbumRegistTest, AnAdditionThatCannotBeWrittenCanBeTriedAgain) {
@@ -198,18 +172,6 @@ TEST_F(AlbumRegistTest, AnAdditionThatCannotBeWrittenCanBeTriedAgain) {
     EXPECT_EQ(folder.Read(kAlbum), line + line + line);
   });
   EXPECT_GT(refusals, 4);
-}
-
-TEST_F(AlbumRegistTest, AnAlbumThatVanishedMeanwhileIsNotStartedAnew) {
-  script.Type(101, "p");
-  Fill(script, "m", "n", "t", "").Click(117);
-  script.Does([&](ControlSession&) -> std::string {
-    std::filesystem::remove(folder.Path() / kAlbum);
-    return "";
-  });
-  Fill(script, "m2", "n", "t", "").Click(117).Shows(1045, "2").Shows(106, "m2").Click(1);
-  Call();
-  EXPECT_EQ(folder.Read(kAlbum), std::nullopt);
 }
 
 }  // namespace

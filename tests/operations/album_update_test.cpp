@@ -1,13 +1,6 @@
-#include <gtest/gtest.h>
 #include <orreryui/orreryui.h>
-#include <sys/stat.h>
 
-#include "front_ends/script/script_front_end.h"
-#include "platform/dialogs/front_end_loader.h"
-#include "platform/strings/code_page_932.h"
-#include "platform/strings/japanese_literal.h"
-#include "tests/support/faulty_file_system.h"
-#include "tests/support/test_folder.h"
+#include "tests/support/play.h"
 
 namespace orreryui {
 namespace {
@@ -30,20 +23,10 @@ class AlbumUpdateTest : public testing::Test {
 
   static std::string CallWith(ScriptFrontEnd& visit, int code, const char* state,
                               const CString& album, const std::string& editor = "") {
-    ScopedFrontEnd scope(&visit);
-    const CString result =
-        OnAlbumUpdate(code, state, album, "鎌倉"_sj, "寺 社"_sj, "139.5", "35.3", editor.c_str());
-    EXPECT_EQ(visit.Failures(), "");
-    return ToUtf8(result);
-  }
-
-  std::string PathOf(const std::string& name) const { return (folder.Path() / name).string(); }
-
-  // A program that does these commands with the path of the album as $1.
-  std::string MakeEditor(const std::string& name, const std::string& commands) const {
-    folder.Write(name, "#!/bin/sh\n" + commands + "\n");
-    EXPECT_EQ(chmod(PathOf(name).c_str(), 0755), 0);
-    return PathOf(name);
+    return ToUtf8(Play(visit, [&] {
+      return OnAlbumUpdate(code, state, album, "鎌倉"_sj, "寺 社"_sj, "139.5", "35.3",
+                           editor.c_str());
+    }));
   }
 
   TestFolder folder;
@@ -101,17 +84,9 @@ TEST_F(AlbumUpdateTest, OkReadsTheFourBoxesOfThePointAndNoOther) {
   EXPECT_EQ(folder.Read(kAlbum), "p 1 2 i f.txt\r\n");
 }
 
-TEST_F(AlbumUpdateTest, EnterEndsInTheOneLineBoxesAndBreaksLinesInTheOthers) {
-  ScriptFrontEnd script;
-  script.OpensDialog(147);
-  for (const int id : {129, 130, 132, 1000, 106, 104}) script.Focus(id).Enter();
-  script.Shows(106, "\r\n").Focus(105).Enter();
-  EXPECT_EQ(Call(script), "7|1|鎌倉\r\n 35.3\r\n 139.5\r\n 寺 社\r\n ");
-}
-
 TEST_F(AlbumUpdateTest, ARowShowsItsFieldsAndThePreviewItsText) {
   folder.Write("t.txt", "main\r\n999\r\n");
-  const std::string path = PathOf("t.txt");
+  const std::string path = folder.PathOf("t.txt");
   const std::string cut = std::string(190, 'c') + "\x82";  // ends at the longest line's end
   folder.Write(kAlbum, std::string("ァー 1 2 ァ表 P.JPG "_sj) + path +
                            "\r\n;c\r\n\r\nMt 1 2 i t\r\n" +
@@ -137,29 +112,6 @@ TEST_F(AlbumUpdateTest, ARowShowsItsFieldsAndThePreviewItsText) {
   EXPECT_EQ(Call(script), "");
 }
 
-TEST_F(AlbumUpdateTest, NinetyNineLinesAreListed) {
-  for (const int count : {0, 98, 99, 100, 5000}) {
-    folder.Write(kAlbum, Lines(1, count));
-    const int shown = std::min(count, 99);
-    ScriptFrontEnd script;
-    script.OpensDialog(147).Shows(131, std::to_string(shown) + "件");
-    if (shown > 0) {
-      const std::string last = std::to_string(shown);
-      script.Pick(128, shown - 1).Shows(131, last + "/" + last).Shows(106, "p" + last);
-    }
-    script.Click(121);
-    EXPECT_EQ(Call(script), "7|3|");
-    EXPECT_EQ(folder.Read(kAlbum), Lines(1, count));
-  }
-}
-
-TEST_F(AlbumUpdateTest, LinesBehindTheEndMarkerStayUnseen) {
-  folder.Write(kAlbum, Lines(1, 2) + "999\r\n" + Lines(3, 4));
-  ScriptFrontEnd script;
-  script.OpensDialog(147).ShowsRows(128, {"p1#i", "p2#i"}).Shows(131, "2件").Escape();
-  Call(script);
-}
-
 TEST_F(AlbumUpdateTest, ANewAlbumIsEmptyFromTheStart) {
   for (const char* state : {"new", "New", ""}) {
     folder.Write(kAlbum, Lines(1, 2));
@@ -178,29 +130,19 @@ TEST_F(AlbumUpdateTest, ANewAlbumIsEmptyFromTheStart) {
             "0|2|鎌倉 35.3 139.5 寺 社 ");
 }
 
-TEST_F(AlbumUpdateTest, AnAlbumThatCannotBeEmptiedKeepsItsLines) {
-  folder.Write(kAlbum, Lines(1, 2));
-  FaultyFileSystem disk(1);
-  ScopedFileSystem scope(disk);
-  ScriptFrontEnd script;
-  script.OpensDialog(147).Shows(131, "   件").ShowsRows(128, {}).Escape();
-  EXPECT_EQ(Call(script, 7, "new"), "");
-  EXPECT_EQ(folder.Read(kAlbum), Lines(1, 2));
-}
-
 TEST_F(AlbumUpdateTest, AnAlbumThatCannotBeReadIsEmptyAndCanBeEdited) {
-  const std::string editor = MakeEditor("ed", "echo > '" + PathOf("ran") + "'");
+  const std::string editor = folder.WriteProgram("ed", "echo > '" + folder.PathOf("ran") + "'");
   for (const CString& album : {folder.Argument(), CString(), folder.Argument() + "none"}) {
     ScriptFrontEnd script;
     script.OpensDialog(147).Shows(131, "0件").Click(1076).Escape();
     EXPECT_EQ(CallWith(script, 7, "old", album, editor), "");
-    EXPECT_EQ(std::filesystem::remove(PathOf("ran")), !album.IsEmpty()) << album;
+    EXPECT_EQ(std::filesystem::remove(folder.PathOf("ran")), !album.IsEmpty()) << album;
   }
 }
 
 TEST_F(AlbumUpdateTest, TheEditorsChangesAreKeptAndShownAtTheNextCall) {
   folder.Write(kAlbum, Lines(1, 2));
-  const std::string editor = MakeEditor("my ed", "printf 'new 1 2 i f.txt\\n' > \"$1\"");
+  const std::string editor = folder.WriteProgram("my ed", "printf 'new 1 2 i f.txt\\n' > \"$1\"");
   ScriptFrontEnd script, next;
   script.OpensDialog(147).Pick(128, 1).Click(1076).ShowsRows(128, {"p1#i", "p2#i"});
   script.Shows(131, "2/2").Shows(106, "p2").Pick(128, 0).Shows(106, "p1").Escape();
@@ -210,22 +152,6 @@ TEST_F(AlbumUpdateTest, TheEditorsChangesAreKeptAndShownAtTheNextCall) {
   Call(next);
 }
 
-TEST_F(AlbumUpdateTest, NoShellReadsThePathOfTheAlbum) {
-  const std::string editor = MakeEditor("ed", "printf ' edited' >> \"$1\"");
-  for (const std::string name : {"a b.alb", "$(touch x);touch x|touch x&`touch x`'.alb"}) {
-    folder.Write(name, "p");
-    ScriptFrontEnd script;
-    script.OpensDialog(147).Click(1076).Escape();
-    CallWith(script, 7, "old", folder.Argument() + name.c_str(), editor);
-    EXPECT_EQ(folder.Read(name), "p edited");
-    ScriptFrontEnd without;
-    without.OpensDialog(147).Click(1076).Shows(131, "1件").Escape();
-    CallWith(without, 7, "old", folder.Argument() + name.c_str(), PathOf("no editor"));
-    EXPECT_EQ(folder.Read(name), "p edited");
-  }
-  EXPECT_FALSE(std::filesystem::exists("x"));
-}
-
 TEST_F(AlbumUpdateTest, WithoutAWindowNothingIsTouched) {
   ScopedFrontEnd no_screen(nullptr);
   folder.Write(kAlbum, Lines(1, 2));
@@ -233,40 +159,6 @@ TEST_F(AlbumUpdateTest, WithoutAWindowNothingIsTouched) {
   EXPECT_EQ(OnAlbumUpdate(7, "new", album, "", "", "", "", ""), "");
   EXPECT_EQ(OnAlbumUpdate(-1, "new", album, "", "", "", "", ""), "");
   EXPECT_EQ(folder.Read(kAlbum), Lines(1, 2));
-}
-
-// From the point on the map to the album that an editor has changed.
-TEST_F(AlbumUpdateTest, AnAlbumIsRegisteredListedEditedAndListedAgain) {
-  const CString album = folder.Argument() + kAlbum;
-  folder.Write("大仏.TXT", std::string("高徳院\r\n999\r\n電話\r\n"_sj));
-  std::string stored = PathOf("大仏.txt");
-  std::replace(stored.begin(), stored.end(), '/', '\\');
-  std::transform(stored.begin(), stored.end(), stored.begin(),
-                 [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c + 32) : c; });
-
-  ScriptFrontEnd registers;
-  registers.OpensDialog(148).Type(101, "鎌倉").Type(104, "散歩");
-  registers.Type(106, "大仏").Type(107, "青銅").Click(109).Beeps().ChoosesFile(PathOf("大仏.TXT"));
-  registers.Shows(108, stored).Type(102, "Daibutsu.jpg").Click(117);
-  registers.Type(106, "長谷寺").Type(102, "Hase.bmp").Click(117);
-  registers.Type(106, "由比ヶ浜").Type(107, "海").Type(108, "umi.txt").Click(117);
-  registers.Shows(1045, "4").Click(1);
-  {
-    ScopedFrontEnd scope(&registers);
-    EXPECT_EQ(ToUtf8(OnDLLAlbumRegist(1, "139.5", "35.3", album, "1")), "1|139.5|35.3|鎌倉|散歩");
-    ASSERT_EQ(registers.Failures(), "");
-  }
-
-  const std::string editor = MakeEditor("ed", "LC_ALL=C sed -i '2s/^[^ ]* /Hasedera /' \"$1\"");
-  ScriptFrontEnd edits, looks;
-  edits.OpensDialog(147).ShowsRows(128, {"大仏#青銅", "長谷寺#", "由比ヶ浜#海"}).Shows(131, "3件");
-  edits.Pick(128, 0).Shows(105, stored).Shows(101, "Daibutsu.jpg").Click(114);
-  edits.OpensDialog(133).Shows(101, "=====   =====\r\n高徳院\r\n999\r\n電話\r\n\r\n").Click(1);
-  edits.Click(1076).Click(1);
-  EXPECT_EQ(Call(edits, 1, "old", editor), "1|1|鎌倉 35.3 139.5 寺 社 ");
-  looks.OpensDialog(147).ShowsRows(128, {"大仏#青銅", "Hasedera#", "由比ヶ浜#海"});
-  looks.Pick(128, 1).Shows(106, "Hasedera").Shows(101, "Hase.bmp").Shows(105, "").Click(103);
-  EXPECT_EQ(Call(looks, 1), "0|2|鎌倉 35.3 139.5 寺 社 ");
 }
 
 }  // namespace

@@ -1,13 +1,6 @@
-#include <gtest/gtest.h>
 #include <orreryui/orreryui.h>
-
-#include <map>
-
-#include "platform/dialogs/front_end_loader.h"
-#include "platform/strings/japanese_literal.h"
-#include "templates/legend.h"
 #include "tests/operations/swatches.h"
-#include "tests/support/test_folder.h"
+#include "tests/support/play.h"
 
 namespace orreryui {
 namespace {
@@ -29,9 +22,7 @@ class LegendTest : public testing::Test {
     ScriptFrontEnd script;
     script.OpensDialog(158).ShowsTitle("  凡例（標高の区分)").Shows(1121, name);
     script.Does(ShowsSwatches(kSwatches, colours)).Click(1);
-    ScopedFrontEnd scope(&script);
-    OnLegendElevetion(palette, folder.Argument(), static_cast<int>(lake));
-    EXPECT_EQ(script.Failures(), "") << palette;
+    Play(script, [&] { OnLegendElevetion(palette, folder.Argument(), static_cast<int>(lake)); });
   }
 
   TestFolder folder;
@@ -62,49 +53,13 @@ TEST_F(LegendTest, WithoutAPaletteTheSwatchesAreEmpty) {
   Call(99, kLake, "c", kThreeRowColours);
 }
 
-TEST_F(LegendTest, FewerThanTwoRowsGiveBlackBands) {
-  folder.Write(kList, "a$p");
-  std::vector<SwatchColour> black(11, 0u);
-  black.back() = kLake;
-  for (const char* rows : {" 100   9   9   9\r\n", ";comment\r\n", ""}) {
-    folder.Write("p", rows);
-    Call(0, kLake, "a", black);
-  }
-}
-
 TEST_F(LegendTest, LoadsItsColoursOnceAndEndsWithEsc) {
   folder.Write(kList, "a$p\r\n");
   folder.Write("p", kThreeRows);
   ScriptFrontEnd script;
-  script.OpensDialog(158).Does([this](ControlSession&) -> std::string {
-    folder.Write("p", "");
-    return "";
-  });
+  script.OpensDialog(158).Does(Silently([this] { folder.Write("p", ""); }));
   script.Paint().Does(ShowsSwatches(kSwatches, kThreeRowColours)).Escape();
-  ScopedFrontEnd scope(&script);
-  OnLegendElevetion(0, folder.Argument(), static_cast<int>(kLake));
-  EXPECT_EQ(script.Failures(), "");
-}
-
-TEST(LegendTemplateTest, EachSwatchStandsBesideItsLabel) {
-  const std::map<int, const char*> labels = {
-      {1109, "海域"_sj},           {1100, "標高  <  100m"_sj}, {1101, "標高  <  200m"_sj},
-      {1102, "標高  <  500m"_sj},  {1103, "標高  <1,000m"_sj}, {1104, "標高  <1,500m"_sj},
-      {1105, "標高  <2,000m"_sj},  {1106, "標高  <2,500m"_sj}, {1107, "標高  <3,000m"_sj},
-      {1108, "標高  3,000m～"_sj}, {1110, "湖沼・貯水池"_sj}};
-  std::size_t found = 0;
-  const ControlTemplate* label = nullptr;
-  for (const ControlTemplate& control : legend::kControls) {
-    if (control.kind == ControlKind::kSwatch) {
-      ++found;
-      EXPECT_STREQ(label->text, labels.at(control.id));
-      EXPECT_EQ(label->place.y + label->place.height / 2,
-                control.place.y + control.place.height / 2);
-      EXPECT_LT(label->place.x, control.place.x);
-    }
-    label = &control;
-  }
-  EXPECT_EQ(found, labels.size());
+  Play(script, [&] { OnLegendElevetion(0, folder.Argument(), static_cast<int>(kLake)); });
 }
 
 }  // namespace

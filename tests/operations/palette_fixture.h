@@ -2,18 +2,11 @@
 #ifndef ORRERYUI_TESTS_OPERATIONS_PALETTE_FIXTURE_H_
 #define ORRERYUI_TESTS_OPERATIONS_PALETTE_FIXTURE_H_
 
-#include <gtest/gtest.h>
 #include <orreryui/orreryui.h>
-
 #include <map>
-#include <string>
-#include <vector>
 
-#include "front_ends/script/script_front_end.h"
-#include "platform/dialogs/front_end_loader.h"
-#include "platform/strings/code_page_932.h"
 #include "tests/operations/swatches.h"
-#include "tests/support/test_folder.h"
+#include "tests/support/play.h"
 
 namespace orreryui {
 
@@ -83,12 +76,13 @@ class PaletteTest : public testing::Test {
   }
 
   // The result in UTF-8.
+  std::string CallWith(ScriptFrontEnd& visit, int selected, const char* editor = "") {
+    return ToUtf8(Play(visit, [&] {
+      return OnMapPalleteSet(selected, editor, folder.Argument(), 0x777777, kLake, kBack);
+    }));
+  }
   std::string Call(int selected, const char* editor = "") {
-    ScopedFrontEnd scope(&script);
-    const CString result =
-        OnMapPalleteSet(selected, editor, folder.Argument(), 0x777777, kLake, kBack);
-    EXPECT_EQ(script.Failures(), "");
-    return ToUtf8(result);
+    return CallWith(script, selected, editor);
   }
 
   TestFolder folder;

@@ -1,8 +1,4 @@
 // The palette editor: what its controls do. Its work on the files is in palette_store_test.cpp.
-#include <gtest/gtest.h>
-
-#include <functional>
-
 #include "tests/operations/palette_fixture.h"
 
 namespace orreryui {
@@ -25,9 +21,7 @@ TEST_F(PaletteTest, CancelReturnsNothing) {
   EXPECT_EQ(Call(0), "");
   ScriptFrontEnd other;
   other.OpensDialog(177).Escape();
-  ScopedFrontEnd scope(&other);
-  EXPECT_EQ(OnMapPalleteSet(0, "", folder.Argument(), 0, 0, 0), "");
-  EXPECT_EQ(other.Failures(), "");
+  EXPECT_EQ(CallWith(other, 0), "");
 }
 
 TEST_F(PaletteTest, ARowThatTheListLacksStaysTheChosenOne) {
@@ -35,27 +29,17 @@ TEST_F(PaletteTest, ARowThatTheListLacksStaysTheChosenOne) {
     ScriptFrontEnd visit;
     visit.OpensDialog(177).ShowsSelection(kNames, -1).Shows(kNames, "");
     visit.Does(ShowsSwatches(kSlots, Colours({}))).Click(kEdit).Click(kDelete).Click(1);
-    ScopedFrontEnd scope(&visit);
-    CString expected;
-    expected.Format("%d|0|0|0|1|2|3|4|5|6|", selected);
-    EXPECT_EQ(OnMapPalleteSet(selected, "", folder.Argument(), 0, kLake, kBack), expected);
-    EXPECT_EQ(visit.Failures(), "");
+    EXPECT_EQ(CallWith(visit, selected), std::to_string(selected) + "|0|0|0|1|2|3|4|5|6|");
   }
   EXPECT_EQ(folder.Read(kList), List(2));
-}
-
-TEST_F(PaletteTest, PickingARowLoadsItsPalette) {
-  script.Pick(kNames, 0).Does(ShowsSwatches(kSlots, Colours(kNatural)));
-  script.Shows(kNames, "自然").Click(1);
-  EXPECT_EQ(Call(1), "0|10|10|10|1|2|3|4|5|6|");
 }
 
 TEST_F(PaletteTest, TheCheckFillsInWhatThePaletteLeavesOut) {
   folder.Write("Orbis1.plt",
                "   0   0   0   0\r\n   1   1   0   0\r\n1200  80   0   0\r\n4000 255   0   0\r\n");
-  const std::map<int, std::uint32_t> exact = {{12, 1}, {10, 255}};
-  const std::map<int, std::uint32_t> filled = {{12, 1},  {2, 6},   {3, 13},  {4, 33},  {5, 66},
-                                               {6, 100}, {7, 133}, {8, 166}, {9, 200}, {10, 255}};
+  const Colour exact = {{12, 1}, {10, 255}};
+  const Colour filled = {{12, 1},  {2, 6},   {3, 13},  {4, 33},  {5, 66},
+                         {6, 100}, {7, 133}, {8, 166}, {9, 200}, {10, 255}};
   script.Does(ShowsSwatches(kSlots, Colours(exact))).Click(kCheck).ShowsCheck(kCheck, true);
   script.Does(ShowsSwatches(kSlots, Colours(filled))).Click(kCheck).ShowsCheck(kCheck, false);
   script.Does(ShowsSwatches(kSlots, Colours(exact))).Click(kCheck).Pick(kNames, 1);
@@ -93,102 +77,64 @@ TEST_F(PaletteTest, TheNewEntryChoosesLakesAndBackgroundFromBlack) {
 }
 
 TEST_F(PaletteTest, EachSwatchOfAnElevationIsSavedInItsRow) {
-  std::map<int, std::uint32_t> colours;
-  for (const int slot : {1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 12}) {
-    const std::uint32_t old = kNatural.contains(slot) ? kNatural.at(slot) : 0;
-    colours[slot] = 0x010203u * static_cast<unsigned>(slot);
-    ScriptFrontEnd visit;
-    visit.OpensDialog(177).Click(Swatch(static_cast<std::size_t>(slot)));
-    visit.ChoosesColour(old, colours[slot]).Click(1);
-    visit.ShowsMessage("配色を更新しますか！", kOk)
-        .ShowsMessage("現在選択中の配色を更新します！", kOk);
-    ScopedFrontEnd scope(&visit);
-    OnMapPalleteSet(0, "", folder.Argument(), 0, kLake, kBack);
-    EXPECT_EQ(visit.Failures(), "") << slot;
+  Colour colours;
+  for (const std::size_t slot : {1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 12}) {
+    const int key = static_cast<int>(slot);
+    colours[key] = 0x010203u * static_cast<unsigned>(slot);
+    script.Click(Swatch(slot)).ChoosesColour(Colours(kNatural)[slot - 1].value(), colours[key]);
   }
-  script.Does(ShowsSwatches(kSlots, Colours(colours))).Escape();
+  script.Click(1).ShowsMessage("配色を更新しますか！", kOk);
+  script.ShowsMessage("現在選択中の配色を更新します！", kOk);
+  Call(0);
+  script.OpensDialog(177).Does(ShowsSwatches(kSlots, Colours(colours))).Escape();
   Call(0);
 }
 
-struct OkCase {
-  const char* what;
-  int selected;
-  std::function<void(ScriptFrontEnd&)> play;  // up to OK and the answers
-  std::string result;
-  std::map<int, std::uint32_t> natural;  // what is in "Orbis1.plt" afterwards
-  bool first_written = false;
-  bool second_written = false;
-};
-
 TEST_F(PaletteTest, OkAsksAboutTheChosenRowIfAChangeIsPending) {
-  constexpr char kAskSaveOld[] = "配色を更新しますか！";
-  constexpr char kAskSaveNew[] = "配色を登録しますか！";
+  constexpr char kAskOld[] = "配色を更新しますか！";
+  constexpr char kAskNew[] = "配色を登録しますか！";
   constexpr char kAskUpdate[] = "現在選択中の配色を更新します！";
-  const auto change = [this](ScriptFrontEnd& visit, std::size_t slot) -> ScriptFrontEnd& {
-    return visit.Click(Swatch(slot)).ChoosesColour(Colours(kNatural)[slot - 1].value(), 9u);
-  };
+  constexpr char kUnchanged[] = "0|10|10|10|1|2|3|4|5|6|";
   auto changed = kNatural;
   changed[2] = 9;
-  const OkCase cases[] = {
-      {"confirmed twice", 0,
-       [&](ScriptFrontEnd& visit) {
-         change(visit, 2).Click(1).ShowsMessage(kAskSaveOld, kOk).ShowsMessage(kAskUpdate, kOk);
-       },
-       "0|10|10|10|1|2|3|4|5|6|", changed, true},
-      {"given up at the second question", 0,
-       [&](ScriptFrontEnd& visit) {
-         change(visit, 2).Click(1).ShowsMessage(kAskSaveOld, kOk).ShowsMessage(kAskUpdate, kCancel);
-       },
-       "0|10|10|10|1|2|3|4|5|6|", kNatural},
-      {"a new sea, which is not in the result", 0,
-       [&](ScriptFrontEnd& visit) { change(visit, 1).Click(1).ShowsMessage(kAskSaveOld, kCancel); },
-       "0|10|10|10|1|2|3|4|5|6|", kNatural},
-      {"the same colour again", 0,
-       [&](ScriptFrontEnd& visit) {
-         visit.Click(Swatch(2)).ChoosesColour(0x040302, 0x040302).Click(1);
-       },
-       "0|10|10|10|1|2|3|4|5|6|", kNatural},
-      {"dropped by a lake colour", 0,
-       [&](ScriptFrontEnd& visit) { change(change(visit, 2), 11).Click(1); },
-       "0|10|10|10|9|0|0|4|5|6|", kNatural},
-      {"another palette is chosen behind the change", 0,
-       [&](ScriptFrontEnd& visit) {
-         change(visit, 2).Pick(kNames, 1).Click(1);
-         visit.ShowsMessage(kAskSaveOld, kOk).ShowsMessage(kAskUpdate, kOk);
-       },
-       "1|20|20|20|1|2|3|4|5|6|", kNatural, false, true},
-      {"the new entry is chosen behind the change, and the sea is the last palette's", 0,
-       [&](ScriptFrontEnd& visit) {
-         change(visit, 2).Pick(kNames, 2).Click(1).ShowsMessage(kAskSaveNew, kCancel);
-       },
-       "2|10|10|10|1|2|3|4|5|6|", kNatural},
-      {"a palette is chosen behind a change of the new entry", 2,
-       [&](ScriptFrontEnd& visit) {
-         visit.Click(Swatch(5)).ChoosesColour(0, 9u).Pick(kNames, 0).Click(1);
-         visit.ShowsMessage(kAskSaveOld, kOk).ShowsMessage(kAskUpdate, kOk);
-       },
-       "0|10|10|10|1|2|3|4|5|6|", kNatural, true},
+  const struct {
+    std::vector<std::size_t> slots;  // that get the colour 9
+    int picked;
+    const char* question;
+    int confirmed;  // so many times
+    const char* result;
+    Colour natural;  // what is in "Orbis1.plt" afterwards
+  } cases[] = {
+      {{2}, 0, kAskOld, 2, kUnchanged, changed},
+      {{2}, 0, kAskOld, 1, kUnchanged, kNatural},
+      {{1}, 0, kAskOld, 0, kUnchanged, kNatural},  // the new sea isn't in the result
+      {{2, 11}, 0, nullptr, 0, "0|10|10|10|9|0|0|4|5|6|", kNatural},  // dropped by a lake colour
+      {{2}, 1, kAskOld, 2, "1|20|20|20|1|2|3|4|5|6|", kNatural},      // another palette is written
+      {{2}, 2, kAskNew, 0, "2|10|10|10|1|2|3|4|5|6|", kNatural},      // with the last palette's sea
   };
-  for (const OkCase& c : cases) {
+  for (const auto& c : cases) {
+    SCOPED_TRACE(&c - cases);
     folder.Write("Orbis1.plt", Text(kNatural));
     folder.Write("Orbis2.plt", Text(kWinter));
-    ScriptFrontEnd visit;
-    c.play(visit.OpensDialog(177));
-    visit.OpensDialog(177).Does(ShowsSwatches(kSlots, Colours(c.natural))).Pick(kNames, 1);
-    visit.Does(ShowsSwatches(kSlots, Colours(kWinter))).Escape();
-    ScopedFrontEnd scope(&visit);
-    EXPECT_EQ(OnMapPalleteSet(c.selected, "", folder.Argument(), 0, kLake, kBack), c.result.c_str())
-        << c.what;
-    EXPECT_EQ(folder.Read("Orbis1.plt") != Text(kNatural), c.first_written) << c.what;
-    EXPECT_EQ(folder.Read("Orbis2.plt") != Text(kWinter), c.second_written) << c.what;
-    OnMapPalleteSet(0, "", folder.Argument(), 0, kLake, kBack);
-    EXPECT_EQ(visit.Failures(), "") << c.what;
-    EXPECT_EQ(folder.Read(kList), List(2)) << c.what;
+    ScriptFrontEnd visit, look;
+    visit.OpensDialog(177);
+    for (const std::size_t slot : c.slots) {
+      visit.Click(Swatch(slot)).ChoosesColour(Colours(kNatural)[slot - 1].value(), 9u);
+    }
+    if (c.picked > 0) visit.Pick(kNames, c.picked);
+    visit.Click(1);
+    if (c.question) visit.ShowsMessage(c.question, c.confirmed > 0 ? kOk : kCancel);
+    if (c.confirmed > 0) visit.ShowsMessage(kAskUpdate, c.confirmed > 1 ? kOk : kCancel);
+    EXPECT_EQ(CallWith(visit, 0), c.result);
+    EXPECT_EQ(folder.Read("Orbis2.plt") != Text(kWinter), c.picked == 1);
+    look.OpensDialog(177).Does(ShowsSwatches(kSlots, Colours(c.natural))).Escape();
+    CallWith(look, 0);
   }
+  EXPECT_EQ(folder.Read(kList), List(2));
 }
 
 TEST_F(PaletteTest, TheNewEntryKeepsColoursOfItsOwn) {
-  std::map<int, std::uint32_t> colours = {{1, 0xFF0000}, {10, 0xFFFFFF}};
+  Colour colours = {{1, 0xFF0000}, {10, 0xFFFFFF}};
   script.Does(ShowsSwatches(kSlots, Colours(colours)));
   script.Click(Swatch(5)).ChoosesColour(0, 0x112233).Shows(kEdit, kNew);
   script.Click(Swatch(1)).ChoosesColour(0xFF0000, 0x445566);
@@ -211,9 +157,7 @@ TEST_F(PaletteTest, ALongListIsShownUpToItsTwentiethLine) {
     ScriptFrontEnd visit;
     visit.OpensDialog(177).ShowsRows(kNames, rows);
     visit.Shows(kNote, "配色の登録数=" + std::to_string(std::min(count, 20))).Escape();
-    ScopedFrontEnd scope(&visit);
-    OnMapPalleteSet(0, "", folder.Argument(), 0, 0, 0);
-    EXPECT_EQ(visit.Failures(), "") << count;
+    CallWith(visit, 0);
   }
 }
 

@@ -1,19 +1,13 @@
-#include <gtest/gtest.h>
 #include <orreryui/orreryui.h>
 
-#include "front_ends/script/script_front_end.h"
-#include "platform/dialogs/front_end_loader.h"
-#include "platform/strings/japanese_literal.h"
+#include "tests/support/play.h"
 
 namespace orreryui {
 namespace {
 
 int Confirm(ScriptFrontEnd& script, const char* west, const char* north, const char* east,
             const char* south) {
-  ScopedFrontEnd scope(&script);
-  const int result = OnRengeConfirm(west, north, east, south);
-  EXPECT_EQ(script.Failures(), "");
-  return result;
+  return Play(script, [&] { return OnRengeConfirm(west, north, east, south); });
 }
 
 TEST(RangeTest, ShowsTheCornersAndTellsWhichButtonEndedIt) {

@@ -1,15 +1,11 @@
 // What every operation does where its dialog can't be shown, comes at the wrong time or fails.
-#include <gtest/gtest.h>
 #include <orreryui/orreryui.h>
 
-#include <functional>
 #include <iterator>
 #include <new>
-#include <string>
 #include <thread>
 
-#include "front_ends/script/script_front_end.h"
-#include "platform/dialogs/front_end_loader.h"
+#include "tests/support/play.h"
 
 namespace orreryui {
 namespace {

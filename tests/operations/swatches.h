@@ -4,11 +4,8 @@
 
 #include <cstdint>
 #include <cstdio>
-#include <optional>
-#include <string>
-#include <vector>
 
-#include "front_ends/script/script_front_end.h"
+#include "tests/support/play.h"
 
 namespace orreryui {
 
@@ -27,12 +24,7 @@ inline ScriptFrontEnd::Action ShowsSwatches(std::vector<int> ids,
     std::string found;
     std::string expected;
     for (const SwatchColour& colour : colours) expected += name(colour);
-    for (const int id : ids) {
-      for (int i = 0; i < session.ControlCount(); ++i) {
-        const ControlView view = session.Control(i);
-        if (view.id == id) found += name(view.swatch.colour);
-      }
-    }
+    for (const int id : ids) found += name(ControlOf(session, id).swatch.colour);
     return found == expected ? "" : "swatches " + found + "not " + expected;
   };
 }

@@ -52,15 +52,6 @@ TEST_F(AlbumFileTest, AFirstLineStartsTheFileAndTheOthersFollow) {
                                              "a\r\nb   i t 1.txt\r\n"_sj));
 }
 
-TEST_F(AlbumFileTest, LinesAreAddedBeyondWhatAReaderGets) {
-  folder.Write(kAlbum, Lines(1, 98));
-  for (int i = 99; i <= 101; ++i) {
-    const CString place = ("p" + std::to_string(i)).c_str();
-    EXPECT_TRUE(AppendAlbumLine(Path(), false, {place, "1", "2", "i", "f.txt", ""}));
-  }
-  EXPECT_EQ(folder.Read(kAlbum), Lines(1, 101));
-}
-
 TEST_F(AlbumFileTest, OnlyTheFirstLineMakesAFile) {
   const DataLine data = {"p", "1", "2", "i", "t.txt", ""};
   EXPECT_FALSE(AppendAlbumLine(Path(), false, data));
@@ -81,14 +72,6 @@ TEST_F(AlbumFileTest, ALineThatNoReaderFindsWholeIsNotWritten) {
     EXPECT_TRUE(AppendAlbumLine(Path(), first, {"p", "1", "2", "i", rest + "x", ""}));
     EXPECT_EQ(ReadAlbumLines(Path()).back(), "p 1 2 i " + rest + "x");
   }
-}
-
-TEST_F(AlbumFileTest, AnEmptyAlbumHoldsNothingOfTheOldOne) {
-  EXPECT_TRUE(CreateEmptyAlbum(Path()));
-  EXPECT_EQ(folder.Read(kAlbum), "");
-  folder.Write(kAlbum, Lines(1, 3));
-  EXPECT_TRUE(CreateEmptyAlbum(Path()));
-  EXPECT_EQ(folder.Read(kAlbum), "");
 }
 
 TEST_F(AlbumFileTest, EmptyLinesCommentsAndCapitalMAreSkipped) {

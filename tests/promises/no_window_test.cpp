@@ -124,12 +124,6 @@ TEST_F(NoWindow, BesideAnotherVersionOfTheToolkit) {
   ExpectNoDialog();
 }
 
-TEST_F(NoWindow, InTheLocaleOfTheEnvironment) {
-  setenv("LC_ALL", "C.UTF-8", 1);
-  setlocale(LC_ALL, "");
-  ExpectNoDialog();
-}
-
 TEST_F(NoWindow, AThousandTimes) {
   ExpectBounded([] { EXPECT_EQ(OnRengeConfirm("", "", "", ""), -1); });
 }

@@ -65,15 +65,6 @@ TEST_F(ToolkitHost, CallsFromInsideItsLoop) {
   EXPECT_EQ(answer, -1);
 }
 
-TEST_F(ToolkitHost, QuitsWhileADialogIsOpen) {
-  QApplication application(arguments_.count, arguments_.values);
-  const User user([](QWidget&) { QCoreApplication::quit(); });
-  int answer = 0;
-  QTimer::singleShot(0, [&answer] { answer = Confirm(); });
-  EXPECT_EQ(QCoreApplication::exec(), 0);
-  EXPECT_EQ(answer, -1);
-}
-
 TEST_F(ToolkitHost, CallsWhileADialogIsOpen) {
   QApplication application(arguments_.count, arguments_.values);
   const User user([](QWidget& dialog) {
@@ -107,12 +98,6 @@ TEST_F(ToolkitHost, WithAnApplicationThatHasNoWindows) {
 TEST_F(ToolkitHost, CallsFromAThreadThatIsNotTheApplications) {
   const QApplication application(arguments_.count, arguments_.values);
   std::thread(ExpectNoDialog).join();
-}
-
-TEST_F(ToolkitHost, AThousandTimes) {
-  QApplication application(arguments_.count, arguments_.values);
-  const User user(User::PressEscape);
-  ExpectBounded([] { EXPECT_EQ(OnRengeConfirm("1", "2", "3", "4"), -1); });
 }
 
 }  // namespace

@@ -1,9 +1,7 @@
-// The palette editor and the map type dialog on the screen: a palette from the open list, a colour
-// from the real chooser, a prefecture from the map; and what the swatches show, pixel by pixel.
+// The palette editor on the screen: a palette from the open list, a colour from the real chooser.
 #include <gtest/gtest.h>
 #include <orreryui/orreryui.h>
 
-#include <QCheckBox>
 #include <QColorDialog>
 #include <QDialogButtonBox>
 #include <QListWidget>
@@ -41,12 +39,6 @@ class Appearance : public testing::Test {
     const QPoint place = list.visualItemRect(list.item(row)).center();
     QTest::mouseClick(list.viewport(), Qt::LeftButton, Qt::NoModifier, place);
   }
-  static QColor PixelOf(QWidget& dialog, int id, double across, double down) {
-    QWidget& swatch = ControlWidget<QWidget>(dialog, id);
-    const QImage image = swatch.grab().toImage();
-    return image.pixelColor(int(across * (image.width() - 1)), int(down * (image.height() - 1)));
-  }
-  static QColor Middle(QWidget& dialog, int id) { return PixelOf(dialog, id, 0.5, 0.5); }
 
   TestFolder folder_;
   ScopedFrontEnd screen_{LoadFrontEnd()};
@@ -54,10 +46,7 @@ class Appearance : public testing::Test {
 
 TEST_F(Appearance, AColourFromTheChooserGoesIntoTheFileOfThePickedPalette) {
   ThenInFront([](QWidget& dialog) {
-    EXPECT_EQ(Middle(dialog, 1017), QColor(10, 20, 30));
-    EXPECT_EQ(Middle(dialog, 1018), QColor(0, 0, 0));
     PickPalette(dialog, 1);
-    EXPECT_EQ(Middle(dialog, 1018), QColor(70, 80, 90));
 
     ThenInFront([](QWidget& front) {
       auto& chooser = dynamic_cast<QColorDialog&>(front);
@@ -67,8 +56,6 @@ TEST_F(Appearance, AColourFromTheChooserGoesIntoTheFileOfThePickedPalette) {
       QTest::mouseClick(buttons->button(QDialogButtonBox::Ok), Qt::LeftButton);
     });
     Click(dialog, 1018);
-    EXPECT_EQ(Middle(dialog, 1018), QColor(1, 2, 3));
-    EXPECT_EQ(PixelOf(dialog, 1018, 0, 0), QColor(0, 0, 0)) << "the clicked swatch is framed";
     EXPECT_EQ(ControlWidget<QAbstractButton>(dialog, 1111).text(), "更新");
 
     ThenInFront([](QWidget& front) {
@@ -84,25 +71,6 @@ TEST_F(Appearance, AColourFromTheChooserGoesIntoTheFileOfThePickedPalette) {
   const std::string written = folder_.Read("Orbis2.plt").value_or("none");
   EXPECT_NE(written.find(" 100   1   2   3       100m\r\n"), std::string::npos) << written;
   EXPECT_EQ(folder_.Read("Orbis1.plt"), kRows);
-}
-
-TEST_F(Appearance, APrefectureFromTheMapEndsTheMapTypeDialog) {
-  std::string region = "1|";
-  for (int slot = 1; slot < 48; ++slot) region += "0|";
-  ThenInFront([](QWidget& dialog) {
-    ThenInFront([](QWidget& map) {
-      EXPECT_TRUE(ControlWidget<QAbstractButton>(map, 1484).isChecked());
-      Click(map, 1484 + 13);
-      EXPECT_FALSE(ControlWidget<QAbstractButton>(map, 1484).isChecked());
-      EXPECT_TRUE(ControlWidget<QAbstractButton>(map, 1484 + 13).isChecked());
-      Click(map, 1);
-    });
-    Click(dialog, 1006);
-  });
-  const CString result = OnMapTypeSet(0, 1, 1, 0, 0, folder_.Argument(), (region + "1").c_str());
-  std::string tokyo;
-  for (int slot = 0; slot < 48; ++slot) tokyo += slot == 13 ? "1|" : "0|";
-  EXPECT_EQ(std::string(result), "1|0|3|1|0|0|1|0|0|0|" + tokyo + "1");
 }
 
 }  // namespace

@@ -24,12 +24,17 @@ void Compose(QWidget& widget, const QString& preedit, const QString& commit = {}
   QApplication::sendEvent(&widget, &event);
 }
 
-TEST(Edits, EachKeyReportsTheWholeText) {
+// Runs `user` in a box that has the focus.
+template <class Edit, class User>
+void RunInBox(ControlKind kind, const std::string& text, User user) {
   FakeSession session;
-  session.Add(kLine, 1, "鎌倉");
+  session.Add(kind, 1, text);
   session.layout.focus = 1;
-  RunWithUser(session, [&](QDialog& window) {
-    auto& edit = ControlWidget<QLineEdit>(window, 1);
+  RunWithUser(session, [&](QDialog& window) { user(session, ControlWidget<Edit>(window, 1)); });
+}
+
+TEST(Edits, EachKeyReportsTheWholeText) {
+  RunInBox<QLineEdit>(kLine, "鎌倉", [](FakeSession& session, QLineEdit& edit) {
     edit.end(false);
     QTest::keyClicks(&edit, "12");
     EXPECT_THAT(session.Take(), ElementsAre("type 1 鎌倉1", "type 1 鎌倉12"));
@@ -63,11 +68,7 @@ TEST(Edits, RefusedCharactersAreLeftOutAndNamed) {
 
 TEST(Edits, CompositionKeepsItsTextAndItsKeys) {
   for (ControlKind kind : {kLine, kLines}) {
-    FakeSession session;
-    session.Add(kind, 1);
-    session.layout.focus = 1;
-    RunWithUser(session, [&](QDialog& window) {
-      auto& edit = ControlWidget<QWidget>(window, 1);
+    RunInBox<QWidget>(kind, "", [](FakeSession& session, QWidget& edit) {
       Compose(edit, "やま");
       QTest::keyClick(&edit, Qt::Key_Return);
       QTest::keyClick(&edit, Qt::Key_Escape);
@@ -99,11 +100,7 @@ TEST(Edits, EnterBreaksTheLineAtTheCursorWhateverKeysAreHeld) {
   const Qt::KeyboardModifiers held[] = {Qt::NoModifier, Qt::ShiftModifier, Qt::ControlModifier,
                                         Qt::AltModifier, Qt::KeypadModifier};
   for (const Qt::KeyboardModifiers modifiers : held) {
-    FakeSession session;
-    session.Add(kLines, 1, "一二");
-    session.layout.focus = 1;
-    RunWithUser(session, [&](QDialog& window) {
-      auto& edit = ControlWidget<QPlainTextEdit>(window, 1);
+    RunInBox<QPlainTextEdit>(kLines, "一二", [&](FakeSession& session, QPlainTextEdit& edit) {
       edit.moveCursor(QTextCursor::Start);
       edit.moveCursor(QTextCursor::NextCharacter);
       const bool keypad = modifiers == Qt::KeypadModifier;
@@ -140,11 +137,7 @@ TEST(Edits, ALongTextShowsItsBeginning) {
 
 TEST(Edits, NoBreakSpacesStay) {
   for (ControlKind kind : {kLine, kLines}) {
-    FakeSession session;
-    session.Add(kind, 1, "a\u00A0b");
-    session.layout.focus = 1;
-    RunWithUser(session, [&](QDialog& window) {
-      auto& edit = ControlWidget<QWidget>(window, 1);
+    RunInBox<QWidget>(kind, "a\u00A0b", [](FakeSession& session, QWidget& edit) {
       QTest::keyClick(&edit, Qt::Key_End);
       QTest::keyClicks(&edit, "c");
       EXPECT_THAT(session.Take(), ElementsAre("type 1 a\u00A0bc"));
@@ -172,13 +165,9 @@ TEST(Edits, LinesStandAtTheSideThatTheControlNames) {
 
 TEST(Edits, TextSetByAHandlerReplacesWhatWasTyped) {
   for (ControlKind kind : {kLine, kLines}) {
-    FakeSession session;
-    session.Add(kind, 1);
-    session.layout.focus = 1;
-    RunWithUser(session, [&](QDialog& window) {
+    RunInBox<QWidget>(kind, "", [&](FakeSession& session, QWidget& edit) {
       session.Change(1, [](ControlView& view) { view.text = "登録されました！"; });
       EXPECT_THAT(session.Take(), ElementsAre());
-      auto& edit = ControlWidget<QWidget>(window, 1);
       EXPECT_EQ(edit.property(kind == kLine ? "text" : "plainText"), "登録されました！");
     });
   }

@@ -56,12 +56,6 @@ void ExpectNothingCut(QDialog& window) {
   EXPECT_GE(edit.height(), edit.minimumSizeHint().height());
 }
 
-TEST(Fit, NoTextIsCut) {
-  FakeSession session;
-  AddTightControls(session);
-  RunWithUser(session, [](QDialog& window) { ExpectNothingCut(window); });
-}
-
 TEST(Fit, NoTextIsCutInALargeFont) {
   const QFont before = QApplication::font();
   QFont large = before;

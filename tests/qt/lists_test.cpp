@@ -112,15 +112,6 @@ TEST(Lists, OnlyTheLeftButtonOnARowSelects) {
   }
 }
 
-TEST(Lists, DoubleClickComesAfterPick) {
-  FakeSession session;
-  AddList(session, ControlKind::kListBox);
-  RunWithUser(session, [&](QDialog& window) {
-    ClickRow(ControlWidget<QListWidget>(window, 1), 2, 0, true);
-    EXPECT_THAT(session.Take(), ElementsAre("pick 1 2", "double 1 2"));
-  });
-}
-
 TEST(Lists, SelectionGoesBackWhereTheModelDoesNotFollow) {
   FakeSession session;
   AddList(session, ControlKind::kListBox);

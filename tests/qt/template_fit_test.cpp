@@ -1,25 +1,17 @@
 // No text of a template is cut on the screen; run at several scales.
 
-#include <gtest/gtest.h>
-
 #include <QCheckBox>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTest>
-#include <ostream>
 
 #include "platform/dialogs/dialog.h"
 #include "platform/dialogs/front_end_loader.h"
-#include "templates/all.h"
 #include "tests/qt/fit_checks.h"
 #include "tests/qt/plugin.h"
+#include "tests/support/each_template.h"
 
 namespace orreryui {
-
-void PrintTo(const DialogTemplate* shown, std::ostream* out) {
-  *out << "template " << shown->number;
-}
-
 namespace {
 
 bool ShowsItsText(ControlKind kind) {
@@ -78,10 +70,6 @@ TEST_P(TemplateFit, NoTextIsCut) {
   CDialog dialog(*GetParam());
   EXPECT_EQ(dialog.DoModal(), IDCANCEL);
   EXPECT_EQ(texts, TextCount(*GetParam()));
-}
-
-std::string NumberOf(const testing::TestParamInfo<const DialogTemplate*>& shown) {
-  return std::to_string(shown.param->number);
 }
 
 INSTANTIATE_TEST_SUITE_P(All, TemplateFit, testing::ValuesIn(kAllTemplates), NumberOf);

@@ -34,18 +34,6 @@ TEST(Window, IsNamedTitledAndOfFixedSize) {
   });
 }
 
-TEST(Window, TheTitleIsShownToTheLetter) {
-  FakeSession session;
-  session.layout.title = "図[*]と[*][*]";
-  session.Add(ControlKind::kPushButton, 1, "OK");
-  RunWithUser(session, [&](QDialog& window) {
-    EXPECT_EQ(window.windowHandle()->title(), "図[*]と[*][*]");
-    session.layout.title = "[*]";
-    session.window->RefreshLayout();
-    EXPECT_EQ(window.windowHandle()->title(), "[*]");
-  });
-}
-
 TEST(Window, EnterEscAndCloseBecomeGestures) {
   FakeSession session;
   session.Add(ControlKind::kPushButton, 1, "OK").is_default = true;
@@ -194,23 +182,6 @@ TEST(Window, EndsWhenAGestureThrows) {
     QTest::mouseClick(&ControlWidget<QPushButton>(window, 1), Qt::LeftButton);
     EXPECT_THAT(session.Take(), ElementsAre("click 1"));
   });
-}
-
-TEST(Window, LeavesTheHostsLoopRunning) {
-  FakeSession session;
-  bool went_on = false;
-  QWidget host;
-  host.show();
-  QTimer::singleShot(0, [&] {
-    host.hide();
-    RunWithUser(session, [](QDialog&) {});
-    QTimer::singleShot(0, [&] {
-      went_on = true;
-      QCoreApplication::exit(0);
-    });
-  });
-  QCoreApplication::exec();
-  EXPECT_TRUE(went_on);
 }
 
 TEST(Window, WaitingTakesNoInputAndPaints) {

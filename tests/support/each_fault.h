@@ -31,18 +31,33 @@ inline void ForEachFault(const std::function<void(FaultyFileSystem&)>& play) {
   }
 }
 
+// A process of its own that does something and ends with what that returns.
+class Child {
+ public:
+  explicit Child(const std::function<int()>& body) : process_(fork()) {
+    if (process_ == 0) _exit(body());
+  }
+  // Waits for the end. 0 is the status of a body that returned 0.
+  int Status() const {
+    int status = -1;
+    EXPECT_EQ(waitpid(process_, &status, 0), process_);
+    return status;
+  }
+
+ private:
+  const pid_t process_;
+};
+
 // Whether a process of its own ends by SIGKILL instead of the n-th call that `change` changes files
 // by.
 inline bool EndsAtCall(int call, const std::function<void()>& change) {
-  const pid_t child = fork();
-  if (child == 0) {
+  const Child child([&] {
     FaultyFileSystem files(call, Fault::kKill);
     const ScopedFileSystem scope(files);
     change();
-    _exit(0);
-  }
-  int status = 0;
-  EXPECT_EQ(waitpid(child, &status, 0), child);
+    return 0;
+  });
+  const int status = child.Status();
   return WIFSIGNALED(status) && WTERMSIG(status) == SIGKILL;
 }
 

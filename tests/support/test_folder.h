@@ -30,11 +30,18 @@ class TestFolder {
   TestFolder& operator=(const TestFolder&) = delete;
 
   const std::filesystem::path& Path() const { return path_; }
+  std::string PathOf(const std::string& name) const { return (path_ / name).string(); }
   // As an operation wants it, with the separator behind it.
   CString Argument() const { return (path_.string() + "/").c_str(); }
 
   void Write(const std::string& name, const std::string& bytes) const {
     std::ofstream(path_ / name, std::ios::binary) << bytes;
+  }
+  // A program that does these commands. Returns its path.
+  std::string WriteProgram(const std::string& name, const std::string& commands) const {
+    Write(name, "#!/bin/sh\n" + commands + "\n");
+    permissions(path_ / name, std::filesystem::perms::owner_all);
+    return PathOf(name);
   }
   // Nothing if there is no such file.
   std::optional<std::string> Read(const std::string& name) const {
