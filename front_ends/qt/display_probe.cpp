@@ -39,7 +39,7 @@ bool HasKey(const QPluginLoader& plugin, const QString& key) {
                               .toObject()
                               .value(QLatin1String("Keys"))
                               .toArray();
-  for (const QJsonValue& known : keys) {
+  for (const auto& known : keys) {
     if (known.toString().compare(key, Qt::CaseInsensitive) == 0) return true;
   }
   return false;
