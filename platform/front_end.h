@@ -190,8 +190,8 @@ class DialogSession : public virtual ControlSession {
  public:
   // The page that lies over a tab control while tab `tab` is selected, or nothing. The page has
   // controls of its own, and lives as long as this session; its focus and its end are those of this
-  // session. Pages exist once Start has returned; a page is filled by then, and its own Start only
-  // joins it to its window.
+  // session. A page comes into being in Start or in a gesture, such as the first Paint; it is
+  // filled by then, and its own Start only joins it to its window.
   virtual ControlSession* Page(int tab_control, int tab) = 0;
 
   // Enter presses the focused push button, else the default one. In a multi-line edit it adds a

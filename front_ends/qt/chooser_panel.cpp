@@ -97,7 +97,7 @@ void ChooserPanel::GestureDone() {
 
 void ChooserPanel::ShowLabel() {
   const std::string label = session_.AcceptLabel();
-  if (!label.empty()) chooser_.setLabelText(QFileDialog::Accept, FromUtf8(label));
+  if (!label.empty()) chooser_.setLabelText(QFileDialog::Accept, Literal(FromUtf8(label)));
 }
 
 }  // namespace orreryui

@@ -252,7 +252,7 @@ class FilePanel : public FileChooser {
     request_.start_name = folder_.path().toStdString() + "/";
     request_.panel = &panel_;
     panel_.layout.number = 175;
-    panel_.label = "選択";
+    panel_.label = "選&択";
     panel_.Add(ControlKind::kRadioButton, 1154, "追加").checked = true;
     panel_.Add(ControlKind::kRadioButton, 1155, "新規作成");
   }
@@ -287,7 +287,7 @@ TEST_F(FilePanel, HearsOfTheRowsOfFilesAndOfFoldersAndNotOfNames) {
   ThenInFront([&](QWidget& front) {
     const auto expect = [&](const FakeSession::Gestures& heard) {
       EXPECT_EQ(panel_.Take(), heard);
-      EXPECT_EQ(Label(front), "選択");
+      EXPECT_EQ(Label(front), "選&&択");
     };
     auto* const name = front.findChild<QLineEdit*>("fileNameEdit");
     ClickRow(front, "a.txt");
