@@ -78,10 +78,10 @@ TEST_F(PaletteTest, TheNewEntryChoosesLakesAndBackgroundFromBlack) {
 
 TEST_F(PaletteTest, EachSwatchOfAnElevationIsSavedInItsRow) {
   Colour colours;
-  for (const std::size_t slot : {1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 12}) {
-    const int key = static_cast<int>(slot);
-    colours[key] = 0x010203u * static_cast<unsigned>(slot);
-    script.Click(Swatch(slot)).ChoosesColour(Colours(kNatural)[slot - 1].value(), colours[key]);
+  for (const int slot : {1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 12}) {
+    const auto place = static_cast<std::size_t>(slot);
+    colours[slot] = 0x010203u * static_cast<unsigned>(slot);
+    script.Click(Swatch(place)).ChoosesColour(Colours(kNatural)[place - 1].value(), colours[slot]);
   }
   script.Click(1).ShowsMessage("配色を更新しますか！", kOk);
   script.ShowsMessage("現在選択中の配色を更新します！", kOk);
