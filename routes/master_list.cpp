@@ -1,0 +1,81 @@
+#include "routes/master_list.h"
+
+#include "frame/entries.h"
+#include "frame/line_file.h"
+#include "frame/split.h"
+
+namespace orreryui {
+namespace {
+
+constexpr std::size_t kLineLimit = 200;
+
+bool IsComplete(const LineReader& reader) {
+  return reader.IsMissing() || (reader.IsOpen() && !reader.Failed());
+}
+
+CString Compose(const CString& name, const CString& member_path) {
+  return name + '@' + member_path;
+}
+
+MasterList ReadAsItStands(const CString& path) {
+  LineReader reader(path, kLineLimit);
+  MasterList list;
+  CString line;
+  while (list.entries.size() < kMostMaps && reader.ReadLine(line)) {
+    if (!line.IsEmpty() && line[0] != ';') list.entries.push_back(line);
+  }
+  list.rest = reader.ReadRest();
+  list.opened = reader.IsOpen();
+  list.complete = IsComplete(reader);
+  return list;
+}
+
+}  // namespace
+
+CString MasterListPath(const CString& folder, MapKind kind) {
+  return folder + (kind == MapKind::kRoute ? "RoutMstr.dat" : "AreaMstr.dat");
+}
+
+MasterList ReadMasterList(const CString& path) {
+  const bool finished = FinishChanges(path);
+  MasterList list = ReadAsItStands(path);
+  list.complete = list.complete && finished;
+  return list;
+}
+
+MasterList ReadMasterList(const FileChanges&, const CString& path) { return ReadAsItStands(path); }
+
+MasterEntry SplitMasterEntry(const CString& entry) {
+  CString path = entry;
+  const CString name = TakeField(path, '@');
+  return {name, path};
+}
+
+CString MasterEntryLabel(const CString& entry) { return TextBefore(entry, '@'); }
+
+bool IsMasterEntry(const CString& name, const CString& member_path) {
+  const CString entry = Compose(name, member_path);
+  const int at = entry.Find('@');
+  return entry[0] != ';' && entry.GetLength() < static_cast<int>(kLineLimit) && at >= 0 &&
+         at <= name.GetLength() && FirstLine(entry) == entry;
+}
+
+bool AppendMasterEntry(FileChanges& changes, const CString& path, const CString& name,
+                       const CString& member_path) {
+  LineReader reader(path, kLineLimit);
+  std::string content = reader.ReadRest();
+  if (!IsComplete(reader) || !IsMasterEntry(name, member_path)) return false;
+  if (!content.empty() && !content.ends_with('\n')) content += "\r\n";
+  return changes.Commit(content + std::string(Compose(name, member_path)) + "\r\n");
+}
+
+bool RewriteMasterList(FileChanges& changes, const MasterList& list,
+                       std::optional<std::size_t> left_out) {
+  std::string content;
+  for (std::size_t i = 0; i < list.entries.size(); ++i) {
+    if (i != left_out) content.append(list.entries[i]).append("\r\n");
+  }
+  return changes.Commit(content + list.rest);
+}
+
+}  // namespace orreryui
