@@ -9,7 +9,7 @@ namespace orreryui::host {
 const std::vector<Operation>& Operations() {
   static const std::vector<Operation> operations = {
       MapTypeSet(),  MapPalleteSet(), LegendElevetion(), DataSourceSet(), DllAlbumRegist(),
-      AlbumUpdate(), TextDisplay(),   MemoDisplay(),     RangeConfirm()};
+      AlbumUpdate(), RouteRegist(),   TextDisplay(),     MemoDisplay(),   RangeConfirm()};
   return operations;
 }
 
