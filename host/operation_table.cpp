@@ -8,8 +8,9 @@ namespace orreryui::host {
 
 const std::vector<Operation>& Operations() {
   static const std::vector<Operation> operations = {
-      MapTypeSet(),  MapPalleteSet(), LegendElevetion(), DataSourceSet(), DllAlbumRegist(),
-      AlbumUpdate(), RouteRegist(),   TextDisplay(),     MemoDisplay(),   RangeConfirm()};
+      MapTypeSet(),     MapPalleteSet(), LegendElevetion(), DataSourceSet(),
+      DllAlbumRegist(), AlbumUpdate(),   RouteRegist(),     RouteInformation(),
+      TextDisplay(),    MemoDisplay(),   RangeConfirm()};
   return operations;
 }
 

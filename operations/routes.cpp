@@ -1,8 +1,10 @@
 #include <orreryui/orreryui.h>
 
+#include "operations/result_string.h"
 #include "operations/run_operation.h"
 #include "routes/album_files_dialog.h"
 #include "routes/map_mode.h"
+#include "routes/route_select_dialog.h"
 
 namespace orreryui {
 namespace {
@@ -11,6 +13,22 @@ namespace {
 constexpr char kCancelled[] = "cancel";
 
 }  // namespace
+
+CString OnRouteInformation(int kind, CString display, CString editor, CString folder) {
+  return RunOperation(CString(), [&] {
+    CDlgRouteSelect dialog;
+    dialog.m_nKind = kind;
+    dialog.m_strDisplay = display;
+    dialog.m_strEditor = editor;
+    dialog.m_strFolder = folder;
+    if (dialog.DoModal() != IDOK) return CString();
+    return ResultString()
+        .Number(dialog.m_nSelected)
+        .Text(dialog.m_strName)
+        .Text(dialog.m_strPath)
+        .End(dialog.m_strDisplay);
+  });
+}
 
 CString OnRouteRegistModule(int shape, int size, CString folder, CString, CString, CString mode,
                             CString caption1, CString caption2, CString, CString,

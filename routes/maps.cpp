@@ -24,30 +24,29 @@ bool RegisterMap(const CString& folder, MapKind kind, const CString& name,
   FileChanges changes(list_path);
   const CString member_path = folder + MakeMemberName(folder, kind);
   WriteMemberFile(changes, member_path, lines);
-  return AppendMasterEntry(changes, list_path, name, member_path);
+  return AppendMasterEntry(changes, list_path, {name, member_path});
 }
 
-bool RenameMap(const CString& path, MasterList& shown, std::size_t& index, const CString& name) {
+bool RenameMap(const CString& path, MasterList& shown, std::size_t& index,
+               const MasterEntry& renamed) {
   FileChanges changes(path);
   MasterList list = ReadMasterList(changes, path);
   const auto place = Find(shown, index, list);
-  if (!place) return false;
-  CString& entry = list.entries[*place];
-  const CString member_path = SplitMasterEntry(entry).path;
-  if (!IsMasterEntry(name, member_path)) return false;
-  entry = name + '@' + member_path;
+  if (!place || !IsMasterEntry(renamed)) return false;
+  list.entries[*place] = JoinMasterEntry(renamed);
   if (!RewriteMasterList(changes, list)) return false;
   index = *place;
   shown = list;
   return true;
 }
 
-bool DeleteMap(const CString& path, MasterList& shown, std::size_t index) {
+bool DeleteMap(const CString& path, MasterList& shown, std::size_t index,
+               const CString& member_path) {
   FileChanges changes(path);
   MasterList list = ReadMasterList(changes, path);
   const auto place = Find(shown, index, list);
   if (!place) return false;
-  changes.Remove(SplitMasterEntry(list.entries[*place]).path);
+  changes.Remove(member_path);
   if (!RewriteMasterList(changes, list, *place)) return false;
   list.entries.erase(list.entries.begin() + static_cast<std::ptrdiff_t>(*place));
   shown = list;

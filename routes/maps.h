@@ -19,13 +19,15 @@ bool RegisterMap(const CString& folder, MapKind kind, const CString& name,
 // These look in the list as it is by now for the entry that `shown` has at `index`, and leave in
 // `shown` what the list holds then. False also if the entry isn't there any more.
 
-// Gives the map another name; the member file keeps its own. `index` is then where the entry is by
-// now. False also for a name that the list can't hold.
-bool RenameMap(const CString& path, MasterList& shown, std::size_t& index, const CString& name);
+// Puts an entry with another name in its place; the member file keeps its own. `index` is then
+// where the entry is by now. False also for an entry that the list can't hold.
+bool RenameMap(const CString& path, MasterList& shown, std::size_t& index,
+               const MasterEntry& renamed);
 
 // Removes the entry and the member file, which must exist beside the list. Another entry that names
 // the same file stays.
-bool DeleteMap(const CString& path, MasterList& shown, std::size_t index);
+bool DeleteMap(const CString& path, MasterList& shown, std::size_t index,
+               const CString& member_path);
 
 }  // namespace orreryui
 

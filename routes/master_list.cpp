@@ -13,10 +13,6 @@ bool IsComplete(const LineReader& reader) {
   return reader.IsMissing() || (reader.IsOpen() && !reader.Failed());
 }
 
-CString Compose(const CString& name, const CString& member_path) {
-  return name + '@' + member_path;
-}
-
 MasterList ReadAsItStands(const CString& path) {
   LineReader reader(path, kLineLimit);
   MasterList list;
@@ -45,28 +41,29 @@ MasterList ReadMasterList(const CString& path) {
 
 MasterList ReadMasterList(const FileChanges&, const CString& path) { return ReadAsItStands(path); }
 
-MasterEntry SplitMasterEntry(const CString& entry) {
-  CString path = entry;
+MasterEntry SplitMasterEntry(const CString& line) {
+  CString path = line;
   const CString name = TakeField(path, '@');
   return {name, path};
 }
 
+CString JoinMasterEntry(const MasterEntry& entry) { return entry.name + '@' + entry.path; }
+
 CString MasterEntryLabel(const CString& entry) { return TextBefore(entry, '@'); }
 
-bool IsMasterEntry(const CString& name, const CString& member_path) {
-  const CString entry = Compose(name, member_path);
-  const int at = entry.Find('@');
-  return entry[0] != ';' && entry.GetLength() < static_cast<int>(kLineLimit) && at >= 0 &&
-         at <= name.GetLength() && FirstLine(entry) == entry;
+bool IsMasterEntry(const MasterEntry& entry) {
+  const CString line = JoinMasterEntry(entry);
+  const int at = line.Find('@');
+  return line[0] != ';' && line.GetLength() < static_cast<int>(kLineLimit) && at >= 0 &&
+         at <= entry.name.GetLength() && FirstLine(line) == line;
 }
 
-bool AppendMasterEntry(FileChanges& changes, const CString& path, const CString& name,
-                       const CString& member_path) {
+bool AppendMasterEntry(FileChanges& changes, const CString& path, const MasterEntry& entry) {
   LineReader reader(path, kLineLimit);
   std::string content = reader.ReadRest();
-  if (!IsComplete(reader) || !IsMasterEntry(name, member_path)) return false;
+  if (!IsComplete(reader) || !IsMasterEntry(entry)) return false;
   if (!content.empty() && !content.ends_with('\n')) content += "\r\n";
-  return changes.Commit(content + std::string(Compose(name, member_path)) + "\r\n");
+  return changes.Commit(content + std::string(JoinMasterEntry(entry)) + "\r\n");
 }
 
 bool RewriteMasterList(FileChanges& changes, const MasterList& list,

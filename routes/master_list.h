@@ -24,6 +24,9 @@ namespace orreryui {
 
 enum class MapKind { kRoute = 2, kArea = 3 };
 
+// By a host's number: 0 is a route, any other one an area.
+inline MapKind MapKindOf(int number) { return number == 0 ? MapKind::kRoute : MapKind::kArea; }
+
 // As many entries as are read. Those behind them stay in the file, whatever is done to it.
 inline constexpr std::size_t kMostMaps = 512;
 
@@ -48,19 +51,19 @@ MasterList ReadMasterList(const CString& path);
 // The list as a change of it finds it.
 MasterList ReadMasterList(const FileChanges& changes, const CString& path);
 
-MasterEntry SplitMasterEntry(const CString& entry);
+MasterEntry SplitMasterEntry(const CString& line);
+CString JoinMasterEntry(const MasterEntry& entry);
 
 // What dialogs show for an entry: its name, or the whole line if it has no @.
 CString MasterEntryLabel(const CString& entry);
 
-// Whether a reader gets back an entry of that name: one line that isn't skipped, isn't cut and
+// Whether a reader gets the entry back: one line that isn't skipped, isn't cut and
 // falls apart at an @. An @ in the name ends the name there.
-bool IsMasterEntry(const CString& name, const CString& member_path);
+bool IsMasterEntry(const MasterEntry& entry);
 
 // Ends a change with one more entry behind all that the list holds; a list that is missing is made.
 // False: all is as it was before the change.
-bool AppendMasterEntry(FileChanges& changes, const CString& path, const CString& name,
-                       const CString& member_path);
+bool AppendMasterEntry(FileChanges& changes, const CString& path, const MasterEntry& entry);
 
 // Ends a change with these entries in the list, but for the one at `left_out`.
 bool RewriteMasterList(FileChanges& changes, const MasterList& list,

@@ -13,15 +13,18 @@
 #include "templates/range.h"
 #include "templates/region.h"
 #include "templates/route_regist.h"
+#include "templates/route_select.h"
+#include "templates/route_update.h"
 #include "templates/text_view.h"
 
 namespace orreryui {
 
 inline constexpr const DialogTemplate* kAllTemplates[] = {
-    &album_files::kTemplate, &album_regist::kTemplate, &album_update::kTemplate,
-    &data_source::kTemplate, &legend::kTemplate,       &map_type::kTemplate,
-    &memo::kTemplate,        &palette::kTemplate,      &range::kTemplate,
-    &region::kTemplate,      &route_regist::kTemplate, &text_view::kTemplate,
+    &album_files::kTemplate,  &album_regist::kTemplate, &album_update::kTemplate,
+    &data_source::kTemplate,  &legend::kTemplate,       &map_type::kTemplate,
+    &memo::kTemplate,         &palette::kTemplate,      &range::kTemplate,
+    &region::kTemplate,       &route_regist::kTemplate, &route_select::kTemplate,
+    &route_update::kTemplate, &text_view::kTemplate,
 };
 
 }  // namespace orreryui

@@ -12,6 +12,7 @@ Operation LegendElevetion();
 Operation DataSourceSet();
 Operation DllAlbumRegist();
 Operation AlbumUpdate();
+Operation RouteInformation();
 Operation RouteRegist();
 Operation TextDisplay();
 Operation MemoDisplay();

@@ -157,6 +157,26 @@ ORRERYUI_EXPORT CString OnAlbumUpdate(int code, CString state, CString album_fil
 // Returns the index of the chosen entry, common_area, and the entry's text.
 ORRERYUI_EXPORT CString OnDataSourceSet(int selected, CString common_area, CString folder);
 
+// Lets the user choose one of the stored route maps or area maps, look at its points, edit its
+// member file in an external text editor, rename or delete maps, and choose how they are to be
+// displayed. What the user renames or deletes is on the disk at once, and a deletion removes the
+// member file, which must lie in the folder of the maps. 512 maps are shown.
+//
+//   kind     0 for the route maps, listed in "RoutMstr.dat" in `folder`; any other number for the
+//            area maps, listed in "AreaMstr.dat"
+//   display  "AUTO" or "MANUAL": the display chosen so far; comes back unchanged if the user
+//   chooses
+//            none
+//   editor   the command that starts the editor; a blank and the path of the member file go behind
+//            it. Nothing is started if all has more than 299 bytes.
+//   folder   the folder of the maps, with its separator
+//
+// Returns the map's number, which is that of its entry in the list from 0, its name, the path of
+// its member file, and display. Without a map the number is -1, and name and path are empty. A map
+// that was renamed or deleted after it had been chosen comes back as it was then.
+ORRERYUI_EXPORT CString OnRouteInformation(int kind, CString display, CString editor,
+                                           CString folder);
+
 // Shows the points of an album, of a stored map or of a list of the host's, and lets the user
 // choose how they are to be displayed. A list of the host's can be stored as a new map as well: as
 // a member file of its own in `folder`, and an entry in the master list there, "RoutMstr.dat" for

@@ -26,6 +26,7 @@ const Operation kOperations[] = {
     {"OnDLLAlbumRegist", [] { return OnDLLAlbumRegist(7, "", "", "", ""); }, "4||||"},
     {"OnAlbumUpdate", [] { return OnAlbumUpdate(7, "", "", "", "", "", "", ""); }, ""},
     {"OnDataSourceSet", [] { return OnDataSourceSet(0, "", ""); }, ""},
+    {"OnRouteInformation", [] { return OnRouteInformation(0, "", "", ""); }, ""},
     {"OnRouteRegistModule",
      [] { return OnRouteRegistModule(0, 0, "", "", "", "", "", "", "", "", "", "", "", "", ""); },
      "cancel"},

@@ -49,11 +49,14 @@ class MapsTest : public testing::Test {
 
   bool Rename(std::size_t index, const std::string& name) const {
     MasterList list = Read();
-    return RenameMap(ListPath(), list, index, name.c_str());
+    return RenameMap(ListPath(), list, index, {name.c_str(), MemberOf(list, index)});
   }
   bool Delete(std::size_t index) const {
     MasterList list = Read();
-    return DeleteMap(ListPath(), list, index);
+    return DeleteMap(ListPath(), list, index, MemberOf(list, index));
+  }
+  static CString MemberOf(const MasterList& list, std::size_t index) {
+    return index < list.entries.size() ? SplitMasterEntry(list.entries[index]).path : CString();
   }
 
   TestFolder folder;
@@ -251,15 +254,15 @@ TEST_F(MapsTest, OneEntryChangesOfWhatTheListHoldsByThen) {
   MasterList shown = Read();
   std::size_t index = 2;
   folder.Write(kList, Entry("new", "c") + Entry("x", "a") + Entry("x", "a"));
-  EXPECT_TRUE(RenameMap(ListPath(), shown, index, "z"));
+  EXPECT_TRUE(RenameMap(ListPath(), shown, index, {"z", PathOf("a").c_str()}));
   EXPECT_EQ(index, 2u);
   EXPECT_EQ(folder.Read(kList), Entry("new", "c") + Entry("x", "a") + Entry("z", "a"));
-  EXPECT_TRUE(DeleteMap(ListPath(), shown, 1));
+  EXPECT_TRUE(DeleteMap(ListPath(), shown, 1, PathOf("a").c_str()));
   EXPECT_EQ(folder.Content(), (Files{{kList, Entry("new", "c") + Entry("z", "a")}, {"b", "2"}}));
   folder.Write(kList, Entry("z", "other"));
   index = 1;
-  EXPECT_FALSE(RenameMap(ListPath(), shown, index, "w"));
-  EXPECT_FALSE(DeleteMap(ListPath(), shown, 1));
+  EXPECT_FALSE(RenameMap(ListPath(), shown, index, {"w", PathOf("b").c_str()}));
+  EXPECT_FALSE(DeleteMap(ListPath(), shown, 1, PathOf("b").c_str()));
   EXPECT_EQ(folder.Content(), (Files{{kList, Entry("z", "other")}, {"b", "2"}}));
 }
 
