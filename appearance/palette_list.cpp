@@ -9,7 +9,6 @@
 #include "frame/entries.h"
 #include "frame/file_changes.h"
 #include "frame/line_file.h"
-#include "platform/system/file_system.h"
 #include "platform/system/path.h"
 
 namespace orreryui {
@@ -52,9 +51,6 @@ CString LowerCase(CString text) {
 bool IsSameFile(const CString& one, const CString& other) {
   return LowerCase(one) == LowerCase(other);
 }
-
-// Whether something is known to have that name.
-bool Exists(const CString& path) { return CurrentFileSystem().Stat(NativePath(path)).has_value(); }
 
 // Whether a line of the list other than that of entry `except` names the file.
 bool IsNamed(const PaletteList& list, const CString& file, std::size_t except) {

@@ -65,7 +65,7 @@ struct Operation {
   std::string result_unless_ok;
   bool returns_something = true;
   std::vector<Step> steps;                  // of the tour's visit,
-  std::string expected_result;              // which ends in this
+  std::string expected_result;              // which ends in this, kDataFolder filled in
   std::vector<std::string> argument_types;  // "integer" or "text"
   // Takes one text an argument.
   std::function<Outcome(const std::vector<std::string>& values)> call;

@@ -11,6 +11,7 @@ namespace orreryui::host {
 // Folders of the sample data, with their separators.
 inline const std::string kPaletteFolder = std::string(kDataFolder) + "/palettes/";
 inline const std::string kAlbumFolder = std::string(kDataFolder) + "/album/";
+inline const std::string kMapFolder = std::string(kDataFolder) + "/maps/";
 
 // Kamakura station.
 inline constexpr char kStartLongitude[] = "139.5503";

@@ -19,10 +19,10 @@ void PrintFields(const Operation& operation, const std::string& result) {
   }
 }
 
-bool MakeVisit(const Operation& operation, const Values& values, const QString& pictures) {
+bool MakeVisit(const Operation& operation, const SampleFolder& data, const QString& pictures) {
   std::printf("%s: %s\n", operation.name.c_str(), operation.purpose.c_str());
   Visitor visitor(operation.steps, pictures);
-  const Outcome outcome = operation.call(InOrder(operation, values));
+  const Outcome outcome = operation.call(InOrder(operation, data.StartValues(operation)));
   std::printf("  result: %s\n", outcome.result.c_str());
   PrintFields(operation, outcome.result);
   for (const QString& picture : visitor.Pictures()) {
@@ -30,8 +30,9 @@ bool MakeVisit(const Operation& operation, const Values& values, const QString& 
   }
   QStringList failures = visitor.Failures();
   if (!outcome.error.empty()) failures += QString::fromStdString(outcome.error);
-  if (outcome.result != operation.expected_result) {
-    failures += QString::fromStdString("the result should be " + operation.expected_result);
+  const std::string expected = data.Filled(operation.expected_result);
+  if (outcome.result != expected) {
+    failures += QString::fromStdString("the result should be " + expected);
   }
   for (const QString& failure : failures) std::printf("  FAILED: %s\n", qPrintable(failure));
   return failures.isEmpty();
@@ -49,7 +50,7 @@ bool MakeTour(const QString& folder) {
   bool good = true;
   for (const Operation& operation : Operations()) {
     const QString pictures = QDir(folder).filePath(QString::fromStdString(operation.name));
-    good = MakeVisit(operation, data.StartValues(operation), pictures) && good;
+    good = MakeVisit(operation, data, pictures) && good;
   }
   return good;
 }

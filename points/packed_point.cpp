@@ -6,16 +6,12 @@
 #include "frame/split.h"
 
 namespace orreryui {
-namespace {
-
-bool IsPicture(CString name) {
+bool HoldsPictureSuffix(CString text) {
   static constexpr const char* kSuffixes[] = {".bmp", ".jpg", ".gif", ".pcd", ".pic"};
-  name.MakeLower();
+  text.MakeLower();
   return std::any_of(std::begin(kSuffixes), std::end(kSuffixes),
-                     [&](const char* suffix) { return name.Find(suffix) >= 0; });
+                     [&](const char* suffix) { return text.Find(suffix) >= 0; });
 }
-
-}  // namespace
 
 CString PackPointLine(const CString& line) {
   CString rest = line;
@@ -30,6 +26,12 @@ CString PackPointLine(const CString& line) {
   return packed;
 }
 
+std::vector<CString> PackPointLines(const std::vector<CString>& lines) {
+  std::vector<CString> points(lines.size());
+  std::transform(lines.begin(), lines.end(), points.begin(), PackPointLine);
+  return points;
+}
+
 DataLine UnpackPoint(const CString& packed) {
   DataLine data;
   CString rest = packed;
@@ -39,7 +41,7 @@ DataLine UnpackPoint(const CString& packed) {
   const bool has_second_file = rest.Find('$') >= 0;
   data.longitude = has_second_file ? TakeField(rest, '$') : rest;
   CString second_file = has_second_file ? rest : CString();
-  const bool picture_first = IsPicture(first_file);
+  const bool picture_first = HoldsPictureSuffix(first_file);
   data.picture = picture_first ? first_file : second_file;
   data.text_file = picture_first ? second_file : first_file;
   data.place = TakeField(head, '#');

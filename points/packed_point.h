@@ -9,6 +9,8 @@
 
 #include <orreryui/cstring.h>
 
+#include <vector>
+
 #include "points/data_line.h"
 
 namespace orreryui {
@@ -16,9 +18,15 @@ namespace orreryui {
 // The packed point of a data line, as it stands in an album or in a file of points.
 CString PackPointLine(const CString& line);
 
+// The packed points of several lines.
+std::vector<CString> PackPointLines(const std::vector<CString>& lines);
+
 // The fields of a packed point. The first file is a picture if its name holds the suffix of a
 // picture anywhere, whatever its case; the second one, if there is one, is the other kind then.
 DataLine UnpackPoint(const CString& packed);
+
+// Whether a name, or any text with names in it, holds the suffix of a picture, in whatever case.
+bool HoldsPictureSuffix(CString text);
 
 // What a list shows for a packed point; all of it if it has no @.
 CString PointLabel(const CString& packed);

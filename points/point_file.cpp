@@ -7,9 +7,7 @@
 namespace orreryui {
 
 std::vector<CString> ReadAlbumPoints(const CString& path) {
-  std::vector<CString> points;
-  for (const CString& line : ReadAlbumLines(path)) points.push_back(PackPointLine(line));
-  return points;
+  return PackPointLines(ReadAlbumLines(path));
 }
 
 std::vector<CString> ReadPointFile(const CString& path) {

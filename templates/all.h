@@ -2,6 +2,7 @@
 #ifndef ORRERYUI_TEMPLATES_ALL_H_
 #define ORRERYUI_TEMPLATES_ALL_H_
 
+#include "templates/album_files.h"
 #include "templates/album_regist.h"
 #include "templates/album_update.h"
 #include "templates/data_source.h"
@@ -11,14 +12,19 @@
 #include "templates/palette.h"
 #include "templates/range.h"
 #include "templates/region.h"
+#include "templates/route_regist.h"
+#include "templates/route_select.h"
+#include "templates/route_update.h"
 #include "templates/text_view.h"
 
 namespace orreryui {
 
 inline constexpr const DialogTemplate* kAllTemplates[] = {
-    &album_regist::kTemplate, &album_update::kTemplate, &data_source::kTemplate, &legend::kTemplate,
-    &map_type::kTemplate,     &memo::kTemplate,         &palette::kTemplate,     &range::kTemplate,
-    &region::kTemplate,       &text_view::kTemplate,
+    &album_files::kTemplate,  &album_regist::kTemplate, &album_update::kTemplate,
+    &data_source::kTemplate,  &legend::kTemplate,       &map_type::kTemplate,
+    &memo::kTemplate,         &palette::kTemplate,      &range::kTemplate,
+    &region::kTemplate,       &route_regist::kTemplate, &route_select::kTemplate,
+    &route_update::kTemplate, &text_view::kTemplate,
 };
 
 }  // namespace orreryui

@@ -12,14 +12,16 @@ Operation LegendElevetion();
 Operation DataSourceSet();
 Operation DllAlbumRegist();
 Operation AlbumUpdate();
+Operation RouteRegist();
+Operation RouteInformation();
 Operation TextDisplay();
 Operation MemoDisplay();
 Operation RangeConfirm();
 
-// In the order of the public header.
+// In the order in which they are listed and visited.
 inline constexpr Operation (*kAllOperations[])() = {
-    MapTypeSet,  MapPalleteSet, LegendElevetion, DataSourceSet, DllAlbumRegist,
-    AlbumUpdate, TextDisplay,   MemoDisplay,     RangeConfirm,
+    MapTypeSet,  MapPalleteSet,    LegendElevetion, DataSourceSet, DllAlbumRegist, AlbumUpdate,
+    RouteRegist, RouteInformation, TextDisplay,     MemoDisplay,   RangeConfirm,
 };
 
 }  // namespace orreryui::host

@@ -157,6 +157,59 @@ ORRERYUI_EXPORT CString OnAlbumUpdate(int code, CString state, CString album_fil
 // Returns the index of the chosen entry, common_area, and the entry's text.
 ORRERYUI_EXPORT CString OnDataSourceSet(int selected, CString common_area, CString folder);
 
+// Lets the user choose one of the stored route maps or area maps, look at its points, edit its
+// member file in an external text editor, rename or delete maps, and choose how they are to be
+// displayed. What the user renames or deletes is on the disk at once, and a deletion removes the
+// member file, which must lie in the folder of the maps. 512 maps are shown.
+//
+//   kind     0 for the route maps, listed in "RoutMstr.dat" in `folder`; any other number for the
+//            area maps, listed in "AreaMstr.dat"
+//   display  "AUTO" or "MANUAL": the display chosen so far; comes back unchanged if the user
+//   chooses
+//            none
+//   editor   the command that starts the editor; a blank and the path of the member file go behind
+//            it. Nothing is started if all has more than 299 bytes.
+//   folder   the folder of the maps, with its separator
+//
+// Returns the map's number, which is that of its entry in the list from 0, its name, the path of
+// its member file, and display. Without a map the number is -1, and name and path are empty. A map
+// that was renamed or deleted after it had been chosen comes back as it was then.
+ORRERYUI_EXPORT CString OnRouteInformation(int kind, CString display, CString editor,
+                                           CString folder);
+
+// Shows the points of an album, of a stored map or of a list of the host's, and lets the user
+// choose how they are to be displayed. A list of the host's can be stored as a new map as well: as
+// a member file of its own in `folder`, and an entry in the master list there, "RoutMstr.dat" for
+// routes and "AreaMstr.dat" for areas. No other map is changed, and a map that was stored stays
+// when the user gives up. A name that a line of 199 bytes can't hold together with the path isn't
+// taken, nor is one that begins with a semicolon.
+//
+//   shape, size          of an area: 0 for a circle, any other number for a square; its diameter
+//                        or side in km
+//   folder               the folder of the maps, with its separator
+//   text1, text2         not used
+//   mode                 "RouteMap" or "AreaMap" for a list of the host's that makes up a route or
+//                        an area. Any other text is the path of an album or of a member file, which
+//                        shows as a route if it holds "RouteMap", or is "RETURN".
+//   caption1, caption2   shown above the points; of a route caption1 alone, and for an area its
+//                        size takes the place of caption2
+//   longitude, latitude  not used: the coordinates shown are the selected point's
+//   centre_latitude      of an area, for the title
+//   centre_longitude
+//   list_display         "AUTO" or "MANUAL": the display chosen so far, for a list of the host's,
+//   file_display         and for a file
+//   list                 of the host's: for each point the line that an album has for it, and a bar
+//                        behind it; 999 and a bar end the list. 100 points are taken.
+//
+// Returns the display that the user chose; if the user chose none, the word that was passed in.
+// "cancel" if the user gave up.
+ORRERYUI_EXPORT CString OnRouteRegistModule(int shape, int size, CString folder, CString text1,
+                                            CString text2, CString mode, CString caption1,
+                                            CString caption2, CString longitude, CString latitude,
+                                            CString centre_latitude, CString centre_longitude,
+                                            CString list_display, CString file_display,
+                                            CString list);
+
 // Shows the main text of a text file: its lines up to the first one that reads 999. The user may
 // type into the text, but nothing is written. A file that can't be read shows as an empty one, and
 // a line of more than 3198 bytes as several.

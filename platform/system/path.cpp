@@ -176,6 +176,8 @@ bool IsMissing(std::string_view path) {
   return found.sure && CurrentFileSystem().IsMissing(found.native);
 }
 
+bool Exists(const char* path) { return CurrentFileSystem().Stat(NativePath(path)).has_value(); }
+
 bool LeadsOut(const char* path) {
   if (HasDrive(path) || IsSeparator(path[0])) return true;
   const auto names = SplitNames(path);

@@ -52,6 +52,9 @@ class ListedOnce {
 // can't be read at the moment.
 bool IsMissing(std::string_view path);
 
+// Whether something is known to have that name.
+bool Exists(const char* path);
+
 // Whether a path that is glued to a folder may lead out of it: one with `..` in it, or with a
 // separator or a drive letter in front.
 bool LeadsOut(const char* path);
