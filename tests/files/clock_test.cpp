@@ -2,14 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include "tests/support/stopped_clock.h"
+
 namespace orreryui {
 namespace {
-
-class StoppedClock : public Clock {
- public:
-  std::time_t Now() override { return 1103979900; }  // 13:05 UTC on 25 December 2004
-  std::tm LocalTime(std::time_t moment) override { return *std::gmtime(&moment); }
-};
 
 TEST(ClockTest, TellsTheTimeOfTheSystemOrOfATest) {
   const std::time_t before = std::time(nullptr);

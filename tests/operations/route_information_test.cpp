@@ -121,19 +121,6 @@ TEST_F(RouteInformationTest, AMapShowsItsPointsAndAPointItsFields) {
   }
 }
 
-TEST_F(RouteInformationTest, FiveHundredTwelveMapsAreShownAndTheOthersKept) {
-  std::string others;
-  for (int i = 1; i < 600; ++i) others += "n" + std::to_string(i) + "@p\r\n" + ";c\r\n";
-  folder.Lay({{kRoutes, Entry("first", "m") + others}, {"m", ""}});
-  ScriptFrontEnd visit;
-  visit.OpensDialog(157).Shows(1092, "計=512").Pick(1089, 511).Shows(1092, "512/512");
-  visit.Click(1091).OpensDialog(156).Shows(1077, "512件").Pick(1078, 0).Click(1079);
-  visit.Shows(1077, "512件").Pick(1078, 511).Shows(1080, "n512").Click(1).Click(1);
-  EXPECT_EQ(Call(visit), "511|n511|p|AUTO");
-  const std::string list = folder.Read(kRoutes).value();
-  EXPECT_TRUE(list.ends_with(others.substr(others.find("n513@p"))));
-}
-
 TEST_F(RouteInformationTest, ARenameKeepsTheSelectionAndADeletionClearsIt) {
   folder.Lay({{kRoutes, ";c\r\n" + Entry("x", "1") + Entry("y", "2") + Entry("z", "none")},
               {"1", Lines(1)},

@@ -4,25 +4,17 @@
 
 #include <algorithm>
 
-#include "frame/file_changes.h"
 #include "front_ends/script/script_front_end.h"
 #include "platform/dialogs/front_end_loader.h"
 #include "platform/strings/code_page_932.h"
 #include "platform/strings/japanese_literal.h"
-#include "platform/system/clock.h"
-#include "tests/support/each_fault.h"
+#include "tests/support/stopped_clock.h"
 #include "tests/support/test_folder.h"
 
 namespace orreryui {
 namespace {
 
 constexpr char kMember[] = "G04C2513.5R";
-
-class StoppedClock : public Clock {
- public:
-  std::time_t Now() override { return 1103979900; }  // 13:05 UTC on 25 December 2004
-  std::tm LocalTime(std::time_t moment) override { return *std::gmtime(&moment); }
-};
 
 // The list of a host with points from p1 on.
 std::string Points(int count, const std::string& end = "999|") {
@@ -66,67 +58,26 @@ class RouteRegistTest : public testing::Test {
 };
 
 TEST_F(RouteRegistTest, TheModeSaysWhatIsShownAndWhereThePointsAre) {
+  struct Look {
+    const char *title, *label, *button, *group;
+  };
+  const Look route = {"      ﾙｰﾄﾏｯﾌﾟに登録されたﾌｧｲﾙ", "", "ﾙｰﾄ登録", "ﾙｰﾄﾏｯﾌﾟの表示方法"};
+  const Look area = {" エリア内のﾌｧｲﾙ (中心 N35.3, E139.5)", "", "ｴﾘｱ登録", "ｴﾘｱﾏｯﾌﾟの表示方法"};
+  const Look album = {"        ｱﾙﾊﾞﾑに登録されたﾌｧｲﾙ", "ｱﾙﾊﾞﾑ", "****", "ｱﾙﾊﾞﾑの表示方法"};
   const struct {
     std::string mode;
     int shape, size;
-    const char *title, *label, *caption2, *button, *group;
+    const Look& look;
+    const char* caption2;
     std::vector<std::string> rows;
   } cases[] = {
-      {"RouteMap",
-       0,
-       9,
-       "      ﾙｰﾄﾏｯﾌﾟに登録されたﾌｧｲﾙ",
-       "",
-       "",
-       "ﾙｰﾄ登録",
-       "ﾙｰﾄﾏｯﾌﾟの表示方法",
-       {"p1#i"}},
-      {"AreaMap",
-       0,
-       11,
-       " エリア内のﾌｧｲﾙ (中心 N35.3, E139.5)",
-       "",
-       "半径5kmの圏内",
-       "ｴﾘｱ登録",
-       "ｴﾘｱﾏｯﾌﾟの表示方法",
-       {"p1#i"}},
-      {"AreaMap",
-       -1,
-       11,
-       " エリア内のﾌｧｲﾙ (中心 N35.3, E139.5)",
-       "",
-       "辺長11kmの圏内",
-       "ｴﾘｱ登録",
-       "ｴﾘｱﾏｯﾌﾟの表示方法",
-       {"p1#i"}},
-      {PathOf("a.RouteMap"),
-       0,
-       9,
-       "      ﾙｰﾄﾏｯﾌﾟに登録されたﾌｧｲﾙ",
-       "",
-       "",
-       "ﾙｰﾄ登録",
-       "ﾙｰﾄﾏｯﾌﾟの表示方法",
-       {"r#i"}},
-      {"RETURN", 0, 9, "      ﾙｰﾄﾏｯﾌﾟに登録されたﾌｧｲﾙ", "", "", "ﾙｰﾄ登録", "ﾙｰﾄﾏｯﾌﾟの表示方法", {}},
-      {PathOf("AreaMap.alb"),
-       1,
-       9,
-       "        ｱﾙﾊﾞﾑに登録されたﾌｧｲﾙ",
-       "ｱﾙﾊﾞﾑ",
-       "頭2",
-       "****",
-       "ｱﾙﾊﾞﾑの表示方法",
-       {"a#i"}},
-      {"routemap",
-       1,
-       9,
-       "        ｱﾙﾊﾞﾑに登録されたﾌｧｲﾙ",
-       "ｱﾙﾊﾞﾑ",
-       "頭2",
-       "****",
-       "ｱﾙﾊﾞﾑの表示方法",
-       {}},
+      {"RouteMap", 0, 9, route, "", {"p1#i"}},
+      {"AreaMap", 0, 11, area, "半径5kmの圏内", {"p1#i"}},
+      {"AreaMap", -1, 11, area, "辺長11kmの圏内", {"p1#i"}},
+      {PathOf("a.RouteMap"), 0, 9, route, "", {"r#i"}},
+      {"RETURN", 0, 9, route, "", {}},
+      {PathOf("AreaMap.alb"), 1, 9, album, "頭2", {"a#i"}},
+      {"routemap", 1, 9, album, "頭2", {}},
   };
   folder.Write("a.RouteMap", "r 1 2 i f\r\n");
   folder.Write("AreaMap.alb",
@@ -135,8 +86,8 @@ TEST_F(RouteRegistTest, TheModeSaysWhatIsShownAndWhereThePointsAre) {
     SCOPED_TRACE(c.mode);
     const bool takes_list = c.mode == "RouteMap" || c.mode == "AreaMap";
     ScriptFrontEnd visit;
-    visit.OpensDialog(149).ShowsTitle(c.title).Shows(1061, c.label).Shows(1034, "頭1");
-    visit.Shows(1035, c.caption2).Shows(1062, c.button).Shows(1060, c.group);
+    visit.OpensDialog(149).ShowsTitle(c.look.title).Shows(1061, c.look.label).Shows(1034, "頭1");
+    visit.Shows(1035, c.caption2).Shows(1062, c.look.button).Shows(1060, c.look.group);
     visit.ShowsRows(128, c.rows).Shows(131, std::to_string(c.rows.size()) + "件");
     visit.ShowsCheck(136, true).ShowsCheck(137, false).Click(1062);
     if (takes_list) visit.OpensDialog(153).Escape();
@@ -250,36 +201,6 @@ TEST_F(RouteRegistTest, AnAreaGoesToItsOwnListUnderAnyNameThatFits) {
               name ? Entry(name, "G04C2513.5A") : "none");
     EXPECT_EQ(folder.Content().size(), name ? 2u : 0u);
   }
-}
-
-TEST_F(RouteRegistTest, AMapThatCannotBeStoredLeavesTheListAsItWas) {
-  const Files before = {{"RoutMstr.dat", ";c\r\n" + Entry("old", "old")}};
-  int refusals = 0;
-  ForEachFault([&](FaultyFileSystem& files) {
-    folder.Lay(before);
-    std::optional<ScopedFileSystem> disk;
-    bool stored = false;
-    ScriptFrontEnd visit;
-    visit.OpensDialog(149).Pick(128, 1).Click(1062).OpensDialog(153).Does([&](ControlSession&) {
-      disk.emplace(files);
-      return "";
-    });
-    visit.Click(1).Does([&](ControlSession& session) -> std::string {
-      disk.reset();
-      for (int i = 0; i < session.ControlCount(); ++i) {
-        if (session.Control(i).id == 131) stored = session.Control(i).text != "2/2";
-      }
-      refusals += stored ? 0 : 1;
-      return "";
-    });
-    visit.Click(1062).OpensDialog(153).Escape().Escape();
-    EXPECT_EQ(Call(visit), "cancel");
-    FinishChanges(PathOf("RoutMstr.dat").c_str());
-    EXPECT_EQ(folder.Content().size(), stored ? 2u : 1u);
-    EXPECT_EQ(folder.Read(kMember).has_value(), stored);
-    EXPECT_EQ(folder.Content() == before, !stored);
-  });
-  EXPECT_GT(refusals, 4);
 }
 
 }  // namespace

@@ -5,14 +5,12 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <ctime>
-
 #include "platform/strings/japanese_literal.h"
-#include "platform/system/clock.h"
 #include "points/packed_point.h"
 #include "points/point_file.h"
 #include "routes/member_file.h"
 #include "tests/support/each_fault.h"
+#include "tests/support/stopped_clock.h"
 #include "tests/support/test_folder.h"
 
 namespace orreryui {
@@ -22,14 +20,6 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 
 constexpr char kList[] = "RoutMstr.dat";
-
-class StoppedClock : public Clock {
- public:
-  std::time_t Now() override { return now; }
-  std::tm LocalTime(std::time_t moment) override { return *std::gmtime(&moment); }
-
-  std::time_t now = 1103979900;  // 13:05 on 25 December 2004
-};
 
 class MapsTest : public testing::Test {
  protected:
