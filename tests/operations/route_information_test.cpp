@@ -1,15 +1,9 @@
 // The selection and the update of stored maps, by their operation on real files.
-#include <gtest/gtest.h>
 #include <orreryui/orreryui.h>
-#include <sys/stat.h>
 
 #include "frame/file_changes.h"
-#include "front_ends/script/script_front_end.h"
-#include "platform/dialogs/front_end_loader.h"
-#include "platform/strings/code_page_932.h"
-#include "platform/strings/japanese_literal.h"
 #include "tests/support/each_fault.h"
-#include "tests/support/test_folder.h"
+#include "tests/support/play.h"
 
 namespace orreryui {
 namespace {
@@ -27,22 +21,13 @@ class RouteInformationTest : public testing::Test {
   // The result in UTF-8.
   std::string Call(ScriptFrontEnd& visit, int kind = 0, const char* display = "AUTO",
                    const std::string& editor = "") const {
-    ScopedFrontEnd scope(&visit);
-    const CString result = OnRouteInformation(kind, display, editor.c_str(), folder.Argument());
-    EXPECT_EQ(visit.Failures(), "");
-    return ToUtf8(result);
+    return ToUtf8(Play(visit, [&] {
+      return OnRouteInformation(kind, display, editor.c_str(), folder.Argument());
+    }));
   }
 
-  std::string PathOf(const std::string& name) const { return folder.Path().string() + "/" + name; }
   std::string Entry(const std::string& name, const std::string& member) const {
-    return FromUtf8(name).bytes + "@" + PathOf(member) + "\r\n";
-  }
-
-  // A program that does these commands with the path of a member file as $1.
-  std::string MakeEditor(const std::string& commands) const {
-    folder.Write("editor", "#!/bin/sh\n" + commands + "\n");
-    EXPECT_EQ(chmod(PathOf("editor").c_str(), 0755), 0);
-    return PathOf("editor");
+    return FromUtf8(name).bytes + "@" + folder.PathOf(member) + "\r\n";
   }
 
   TestFolder folder;
@@ -73,7 +58,7 @@ TEST_F(RouteInformationTest, TheKindSaysWhichMapsAndHowTheyAreCalled) {
 
 TEST_F(RouteInformationTest, ALostListShowsNoCountAndTheDisplayComesBackAllTheSame) {
   for (const bool is_folder : {false, true}) {
-    if (is_folder) std::filesystem::create_directory(PathOf(kRoutes));
+    if (is_folder) std::filesystem::create_directory(folder.PathOf(kRoutes));
     ScriptFrontEnd visit;
     visit.OpensDialog(157).ShowsRows(1089, {}).Shows(1092, "").ShowsCheck(1088, true);
     visit.Click(1091).OpensDialog(156).ShowsRows(1078, {}).Shows(1077, "0件").Type(1080, "x");
@@ -94,6 +79,8 @@ TEST_F(RouteInformationTest, AMapShowsItsPointsAndAPointItsFields) {
        {"1", std::string("鎌倉 35.3 139.5 寺 a.jpg a.txt\r\n;b 1 2 i f\r\nM\r\n\r\n999\r\n"_sj)},
        {"many", Lines(100)},
        {"nil", ""}});
+  // What the editor adds is shown when the map is picked anew.
+  const std::string editor = folder.WriteProgram("editor", "echo 'c 1 2 j f' >> \"$1\"");
   ScriptFrontEnd visit;
   visit.OpensDialog(157).ShowsRows(1089, {"一|", "no at", "empty", "none", "many", "nil"});
   visit.Shows(1092, "計=6").Pick(1089, 0).Shows(1092, "1/6").Shows(131, "4件");
@@ -107,13 +94,14 @@ TEST_F(RouteInformationTest, AMapShowsItsPointsAndAPointItsFields) {
   for (const int row : {1, 3, 5}) {
     visit.Pick(1089, row).ShowsRows(1086, {}).Shows(131, "0件").Shows(1080, "").Shows(1081, "");
   }
-  visit.Pick(1089, 0).Click(1);
-  EXPECT_EQ(Call(visit), "0|一||" + PathOf("1") + "|AUTO");
+  visit.Pick(1089, 5).Click(1090).ShowsRows(1086, {}).Pick(1089, 5).ShowsRows(1086, {"c#j"});
+  visit.Pick(1089, 0).Click(1088).Click(1);
+  EXPECT_EQ(Call(visit, 0, "AUTO", editor), "0|一||" + folder.PathOf("1") + "|MANUAL");
   const struct {
     int row;
     std::string result;
   } cases[] = {
-      {1, "1||no at|AUTO"}, {2, "2|empty||AUTO"}, {3, "3|none|" + PathOf("none") + "|AUTO"}};
+      {1, "1||no at|AUTO"}, {2, "2|empty||AUTO"}, {3, "3|none|" + folder.PathOf("none") + "|AUTO"}};
   for (const auto& [row, result] : cases) {
     ScriptFrontEnd choice;
     choice.OpensDialog(157).Pick(1089, row).Click(1);
@@ -139,7 +127,7 @@ TEST_F(RouteInformationTest, ARenameKeepsTheSelectionAndADeletionClearsIt) {
   visit.ShowsRows(1089, {"x", "y", "z"}).Shows(1080, "p1").Pick(1089, 1).ShowsRows(1086, {});
   visit.Click(1091).OpensDialog(156).Click(1).ShowsRows(1089, {"x", "w"}).Shows(1092, "計=2");
   visit.ShowsSelection(1089, -1).Shows(131, "0件").Click(1);
-  EXPECT_EQ(Call(visit), "1|y|" + PathOf("2") + "|AUTO");
+  EXPECT_EQ(Call(visit), "1|y|" + folder.PathOf("2") + "|AUTO");
   EXPECT_EQ(folder.Content(),
             (Files{{kRoutes, Entry("x", "1") + Entry("w", "none")}, {"1", Lines(1)}}));
 }
@@ -147,20 +135,16 @@ TEST_F(RouteInformationTest, ARenameKeepsTheSelectionAndADeletionClearsIt) {
 // While calls of the file system fail, each click has no effect at all or the whole of it, on the
 // disk and on the screen.
 TEST_F(RouteInformationTest, AChangeThatFailsIsARefusedClick) {
-  const Files before = {
-      {kRoutes, ";c\r\n" + Entry("x", "1") + Entry("y", "2")}, {"1", "a"}, {"2", "b"}};
+  const std::string before = Entry("x", "1") + Entry("y", "2");
   const struct {
     int click;
-    Files after;
     const char* first;
-  } cases[] = {
-      {1079, {{kRoutes, Entry("y", "2")}, {"2", "b"}}, "y"},
-      {1081, {{kRoutes, Entry("new", "1") + Entry("y", "2")}, {"1", "a"}, {"2", "b"}}, "new"},
-  };
+    std::string after;
+  } cases[] = {{1079, "y", Entry("y", "2")}, {1081, "new", Entry("new", "1") + Entry("y", "2")}};
   for (const auto& c : cases) {
     int refusals = 0;
     ForEachFault([&](FaultyFileSystem& files) {
-      folder.Lay(before);
+      folder.Lay({{kRoutes, before}, {"1", "a"}});
       ScriptFrontEnd visit;
       visit.OpensDialog(157).Click(1091).OpensDialog(156).Pick(1078, 0).Type(1080, "new");
       visit.Does([&](ControlSession& session) {
@@ -168,15 +152,12 @@ TEST_F(RouteInformationTest, AChangeThatFailsIsARefusedClick) {
           const ScopedFileSystem scope(files);
           session.Click(c.click);
         }
-        FinishChanges(PathOf(kRoutes).c_str());
-        const bool changed = folder.Content() != before;
+        FinishChanges(folder.PathOf(kRoutes).c_str());
+        const bool changed = folder.Read(kRoutes) == c.after;
         refusals += changed ? 0 : 1;
-        EXPECT_EQ(folder.Content(), changed ? c.after : before);
-        for (int i = 0; i < session.ControlCount(); ++i) {
-          const ControlView view = session.Control(i);
-          EXPECT_TRUE(view.id != 1078 || view.rows[0][0] == (changed ? c.first : "x"));
-          EXPECT_TRUE(view.id != 1080 || view.text == "new");
-        }
+        EXPECT_TRUE(changed || folder.Read(kRoutes) == before);
+        EXPECT_EQ(ControlOf(session, 1078).rows[0][0], changed ? c.first : "x");
+        EXPECT_EQ(ControlOf(session, 1080).text, "new");
         return "";
       });
       visit.Escape().Escape();
@@ -184,39 +165,6 @@ TEST_F(RouteInformationTest, AChangeThatFailsIsARefusedClick) {
     });
     EXPECT_GT(refusals, 4);
   }
-}
-
-// From a list of the host's to a map that is found again, edited, renamed and deleted.
-TEST_F(RouteInformationTest, AMapLivesFromItsRegistrationToItsDeletion) {
-  const auto regist = [&](ScriptFrontEnd& visit) {
-    const ScopedFrontEnd scope(&visit);
-    OnRouteRegistModule(0, 0, folder.Argument(), "", "", "RouteMap", "", "", "", "", "", "", "AUTO",
-                        "", "鎌倉 35.3 139.5 寺 A.txt|B 1 2 i f|999|"_sj);
-    EXPECT_EQ(visit.Failures(), "");
-  };
-  ScriptFrontEnd first, second;
-  first.OpensDialog(149).Click(1062).OpensDialog(153).Click(1).Click(103);
-  regist(first);
-  second.OpensDialog(149).Click(1062).OpensDialog(153).Type(1065, "other").Click(1).Click(103);
-  regist(second);
-  const std::string member = FromUtf8("鎌倉 35.3 139.5 寺 a.txt\r\nb 1 2 i f\r\n").bytes;
-  EXPECT_EQ(folder.Content().size(), 3u);
-
-  const std::string editor = MakeEditor("echo 'c 1 2 i f' >> \"$1\"");
-  ScriptFrontEnd visit;
-  visit.OpensDialog(157).ShowsRows(1089, {"鎌倉(計2地点)", "other"}).Pick(1089, 0);
-  visit.ShowsRows(1086, {"鎌倉#寺", "b#i"}).Click(1090).ShowsRows(1086, {"鎌倉#寺", "b#i"});
-  visit.Pick(1089, 0).ShowsRows(1086, {"鎌倉#寺", "b#i", "c#i"}).Click(1091).OpensDialog(156);
-  visit.Pick(1078, 0).Type(1080, "散歩").Click(1081).Click(1).ShowsRows(1089, {"散歩", "other"});
-  visit.Click(1091).OpensDialog(156).Pick(1078, 0).Click(1079).Click(1).ShowsRows(1089, {"other"});
-  visit.Pick(1089, 0).ShowsRows(1086, {"鎌倉#寺", "b#i"}).Click(1088).Click(1);
-  const std::string result = Call(visit, 0, "AUTO", editor);
-  EXPECT_TRUE(result.starts_with("0|other|" + PathOf("G")) && result.ends_with("R|MANUAL"))
-      << result;
-  const std::string path = result.substr(8, result.rfind('|') - 8);
-  EXPECT_EQ(folder.Content(), (Files{{kRoutes, "other@" + path + "\r\n"},
-                                     {path.substr(PathOf("").size()), member},
-                                     {"editor", folder.Read("editor").value()}}));
 }
 
 }  // namespace

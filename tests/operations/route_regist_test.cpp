@@ -1,15 +1,10 @@
 // The list of points and the registration of a map, by their operation on real files.
-#include <gtest/gtest.h>
 #include <orreryui/orreryui.h>
 
 #include <algorithm>
 
-#include "front_ends/script/script_front_end.h"
-#include "platform/dialogs/front_end_loader.h"
-#include "platform/strings/code_page_932.h"
-#include "platform/strings/japanese_literal.h"
+#include "tests/support/play.h"
 #include "tests/support/stopped_clock.h"
-#include "tests/support/test_folder.h"
 
 namespace orreryui {
 namespace {
@@ -37,19 +32,17 @@ class RouteRegistTest : public testing::Test {
   std::string Call(ScriptFrontEnd& visit, const Given& given) const {
     const CString mode = FromUtf8(given.mode).bytes.c_str();
     const bool takes_list = mode == "RouteMap" || mode == "AreaMap";
-    ScopedFrontEnd scope(&visit);
-    const CString result = OnRouteRegistModule(
-        given.shape, given.size, folder.Argument(), "", "", mode, "頭1"_sj, "頭2"_sj, "139", "35",
-        "35.3", "139.5", takes_list ? given.display : "other", takes_list ? "other" : given.display,
-        FromUtf8(given.list).bytes.c_str());
-    EXPECT_EQ(visit.Failures(), "");
-    return ToUtf8(result);
+    return ToUtf8(Play(visit, [&] {
+      return OnRouteRegistModule(
+          given.shape, given.size, folder.Argument(), "", "", mode, "頭1"_sj, "頭2"_sj, "139", "35",
+          "35.3", "139.5", takes_list ? given.display : "other",
+          takes_list ? "other" : given.display, FromUtf8(given.list).bytes.c_str());
+    }));
   }
   std::string Call(ScriptFrontEnd& visit) const { return Call(visit, Given()); }
 
-  std::string PathOf(const std::string& name) const { return folder.Path().string() + "/" + name; }
   std::string Entry(const std::string& name, const std::string& member = kMember) const {
-    return FromUtf8(name).bytes + "@" + PathOf(member) + "\r\n";
+    return FromUtf8(name).bytes + "@" + folder.PathOf(member) + "\r\n";
   }
 
   TestFolder folder;
@@ -74,9 +67,9 @@ TEST_F(RouteRegistTest, TheModeSaysWhatIsShownAndWhereThePointsAre) {
       {"RouteMap", 0, 9, route, "", {"p1#i"}},
       {"AreaMap", 0, 11, area, "半径5kmの圏内", {"p1#i"}},
       {"AreaMap", -1, 11, area, "辺長11kmの圏内", {"p1#i"}},
-      {PathOf("a.RouteMap"), 0, 9, route, "", {"r#i"}},
+      {folder.PathOf("a.RouteMap"), 0, 9, route, "", {"r#i"}},
       {"RETURN", 0, 9, route, "", {}},
-      {PathOf("AreaMap.alb"), 1, 9, album, "頭2", {"a#i"}},
+      {folder.PathOf("AreaMap.alb"), 1, 9, album, "頭2", {"a#i"}},
       {"routemap", 1, 9, album, "頭2", {}},
   };
   folder.Write("a.RouteMap", "r 1 2 i f\r\n");
@@ -108,13 +101,11 @@ TEST_F(RouteRegistTest, TheDisplayIsTheHostsWordUntilTheUserChooses) {
                {"MANUAL", 136, false, "AUTO"}, {"AUTO", 137, true, "MANUAL"},
                {"AUTO", 136, true, "AUTO"}};
   for (const auto& [given, click, automatic, chosen] : cases) {
-    for (const char* mode : {"RouteMap", "AreaMap", "some.alb"}) {
-      ScriptFrontEnd visit;
-      visit.OpensDialog(149).ShowsCheck(136, automatic).ShowsCheck(137, !automatic);
-      if (click) visit.Click(click);
-      visit.Click(103);
-      EXPECT_EQ(Call(visit, {.mode = mode, .display = given}), chosen);
-    }
+    ScriptFrontEnd visit;
+    visit.OpensDialog(149).ShowsCheck(136, automatic).ShowsCheck(137, !automatic);
+    if (click) visit.Click(click);
+    visit.Click(103);
+    EXPECT_EQ(Call(visit, {.display = given}), chosen);
   }
   ScriptFrontEnd escape;
   escape.OpensDialog(149).Click(137).Escape();
@@ -133,22 +124,9 @@ TEST_F(RouteRegistTest, ARowShowsItsFields) {
 }
 
 TEST_F(RouteRegistTest, AListEndsAtItsEndMarkerItsLastBarOrAHundredPoints) {
-  const struct {
-    std::string list;
-    int count;
-  } cases[] = {
-      {"", 0},
-      {"999|", 0},
-      {"999", 0},
-      {Points(1), 1},
-      {Points(2, ""), 2},
-      {Points(2, "x 1 2"), 2},
-      {Points(99), 99},
-      {Points(100), 100},
-      {Points(101), 100},
-      {Points(100, ""), 100},
-      {Points(1, "9990|999|"), 2},
-  };
+  const std::pair<std::string, int> cases[] = {
+      {"999|", 0},        {"999", 0},         {Points(2, ""), 2},         {Points(2, "x 1 2"), 2},
+      {Points(100), 100}, {Points(101), 100}, {Points(1, "9990|999|"), 2}};
   for (const auto& [list, count] : cases) {
     const std::string text = std::to_string(count);
     ScriptFrontEnd visit;
@@ -187,20 +165,14 @@ TEST_F(RouteRegistTest, AMapIsStoredAsItIsAndShownInLowerCaseThen) {
                    {"G04C2513.6R", lines}}));
 }
 
-TEST_F(RouteRegistTest, AnAreaGoesToItsOwnListUnderAnyNameThatFits) {
-  const struct {
-    const char *typed, *name;  // without a name it is refused
-  } cases[] = {{"", ""}, {"湘南", "湘南"}, {" a@b ", " a@b "}, {";a", nullptr}};
-  for (const auto& [typed, name] : cases) {
-    folder.Lay({});
-    ScriptFrontEnd visit;
-    visit.OpensDialog(149).Click(1062).OpensDialog(153).ShowsTitle("            エリア登録");
-    visit.Shows(1090, "エリア").Type(1065, typed).Click(1).Shows(106, "p1").Click(103);
-    EXPECT_EQ(Call(visit, {.mode = "AreaMap"}), "AUTO");
-    EXPECT_EQ(folder.Read("AreaMstr.dat").value_or("none"),
-              name ? Entry(name, "G04C2513.5A") : "none");
-    EXPECT_EQ(folder.Content().size(), name ? 2u : 0u);
-  }
+TEST_F(RouteRegistTest, AnAreaGoesToItsOwnListUnderANameThatFits) {
+  ScriptFrontEnd visit;
+  visit.OpensDialog(149).Click(1062).OpensDialog(153).ShowsTitle("            エリア登録");
+  visit.Shows(1090, "エリア").Type(1065, ";a").Click(1).Shows(105, "F.txt");
+  visit.Click(1062).OpensDialog(153).Type(1065, "湘南").Click(1).Shows(105, "f.txt").Click(103);
+  EXPECT_EQ(Call(visit, {.mode = "AreaMap"}), "AUTO");
+  EXPECT_EQ(folder.Content(), (Files{{"AreaMstr.dat", Entry("湘南", "G04C2513.5A")},
+                                     {"G04C2513.5A", "p1 1 2 i f.txt\r\np2 1 2 i f.txt\r\n"}}));
 }
 
 }  // namespace
