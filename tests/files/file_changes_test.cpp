@@ -16,24 +16,23 @@ constexpr char kList[] = "LIST.DAT";
 
 class FileChangesTest : public testing::Test {
  protected:
-  std::string ListPath() const { return folder_.PathOf(kList); }
+  CString At(const std::string& name) const { return folder_.PathOf(name).c_str(); }
 
   // The first of four leaves, the others move up, and a new one comes behind.
   void AddSteps(FileChanges& changes) const {
-    changes.Remove(folder_.PathOf("f1").c_str());
+    changes.Remove(At("f1"));
     for (int i = 2; i <= 4; ++i) {
-      changes.Rename(folder_.PathOf("f" + std::to_string(i)).c_str(),
-                     folder_.PathOf("f" + std::to_string(i - 1)).c_str());
+      changes.Rename(At("f" + std::to_string(i)), At("f" + std::to_string(i - 1)));
     }
-    changes.Create(folder_.PathOf("f4").c_str(), "e");
+    changes.Create(At("f4"), "e");
   }
   bool Change() const {
-    FileChanges changes(ListPath().c_str());
+    FileChanges changes(At(kList));
     AddSteps(changes);
     return changes.Commit("bcde");
   }
   Files Reopened() const {
-    EXPECT_TRUE(FinishChanges(ListPath().c_str()));
+    EXPECT_TRUE(FinishChanges(At(kList)));
     return folder_.Content();
   }
 
@@ -86,7 +85,7 @@ TEST_F(FileChangesTest, ARecoveryCanBeCutOffToo) {
   for (call = 1; change_is_killed(); ++call) {
     const Files expected = Reopened();
     change_is_killed();
-    for (int second = 1; EndsAtCall(second, [&] { FinishChanges(ListPath().c_str()); }); ++second) {
+    for (int second = 1; EndsAtCall(second, [&] { FinishChanges(At(kList)); }); ++second) {
     }
     EXPECT_EQ(folder_.Content(), expected) << call;
   }
@@ -94,8 +93,8 @@ TEST_F(FileChangesTest, ARecoveryCanBeCutOffToo) {
 
 TEST_F(FileChangesTest, MakesAListThatIsMissing) {
   const auto change = [&] {
-    FileChanges changes(ListPath().c_str());
-    changes.Create(folder_.PathOf("f").c_str(), "new");
+    FileChanges changes(At(kList));
+    changes.Create(At("f"), "new");
     return changes.Commit("list");
   };
   const Files after{{kList, "list"}, {"f", "new"}};
@@ -110,28 +109,22 @@ TEST_F(FileChangesTest, MakesAListThatIsMissing) {
 TEST_F(FileChangesTest, WhatCannotBeDoneRefusesTheWholeChange) {
   std::filesystem::create_directory(folder_.Path() / "folder");
   const std::function<void(FileChanges&)> kCases[] = {
-      [&](FileChanges& c) { c.Remove(folder_.PathOf("missing").c_str()); },
-      [&](FileChanges& c) { c.Remove(folder_.PathOf("folder").c_str()); },
-      [&](FileChanges& c) {
-        c.Remove(folder_.PathOf("f1").c_str()), c.Remove(folder_.PathOf("f1").c_str());
-      },
-      [&](FileChanges& c) {
-        c.Rename(folder_.PathOf("missing").c_str(), folder_.PathOf("x").c_str());
-      },
-      [&](FileChanges& c) { c.Rename(folder_.PathOf("f1").c_str(), folder_.PathOf("F2").c_str()); },
-      [&](FileChanges& c) {
-        c.Rename(folder_.PathOf("f1").c_str(), folder_.PathOf("folder\\x").c_str());
-      },
-      [&](FileChanges& c) { c.Create(folder_.PathOf("F1").c_str(), "x"); },
-      [&](FileChanges& c) { c.Create(folder_.PathOf("folder/..").c_str(), "x"); },
-      [&](FileChanges& c) { c.Create(folder_.PathOf("a\nb").c_str(), "x"); },
-      [&](FileChanges& c) { c.Remove(folder_.PathOf("folder/../f1").c_str()); },
+      [&](FileChanges& c) { c.Remove(At("missing")); },
+      [&](FileChanges& c) { c.Remove(At("folder")); },
+      [&](FileChanges& c) { c.Remove(At("f1")), c.Remove(At("f1")); },
+      [&](FileChanges& c) { c.Rename(At("missing"), At("x")); },
+      [&](FileChanges& c) { c.Rename(At("f1"), At("F2")); },
+      [&](FileChanges& c) { c.Rename(At("f1"), At("folder\\x")); },
+      [&](FileChanges& c) { c.Create(At("F1"), "x"); },
+      [&](FileChanges& c) { c.Create(At("folder/.."), "x"); },
+      [&](FileChanges& c) { c.Create(At("a\nb"), "x"); },
+      [&](FileChanges& c) { c.Remove(At("folder/../f1")); },
   };
   folder_.Lay(before_);
   std::filesystem::create_directory(folder_.Path() / "folder");
   for (const auto& step : kCases) {
-    FileChanges changes(ListPath().c_str());
-    changes.Rename(folder_.PathOf("f4").c_str(), folder_.PathOf("f5").c_str());
+    FileChanges changes(At(kList));
+    changes.Rename(At("f4"), At("f5"));
     step(changes);
     EXPECT_FALSE(changes.Commit("x")) << &step - kCases;
   }
@@ -142,9 +135,9 @@ TEST_F(FileChangesTest, WhatCannotBeDoneRefusesTheWholeChange) {
 TEST_F(FileChangesTest, FreesNamesInAnyCase) {
   folder_.Lay({{kList, "ab"}, {"F1", "a"}, {"F2", "b"}});
   {
-    FileChanges changes(ListPath().c_str());
-    changes.Remove(folder_.PathOf("f1").c_str());
-    changes.Rename(folder_.PathOf("f2").c_str(), folder_.PathOf("f1").c_str());
+    FileChanges changes(At(kList));
+    changes.Remove(At("f1"));
+    changes.Rename(At("f2"), At("f1"));
     EXPECT_TRUE(changes.Commit("b"));
     EXPECT_EQ(never_synced_.listings(), 1);
   }
@@ -170,7 +163,7 @@ TEST_F(FileChangesTest, AStrangeJournalHarmsNothing) {
   }
   std::filesystem::create_symlink(other.Path() / "victim", folder_.Path() / journal);
   EXPECT_FALSE(Change());
-  EXPECT_FALSE(FinishChanges(ListPath().c_str()));
+  EXPECT_FALSE(FinishChanges(At(kList)));
   EXPECT_EQ(other.Read("victim"), "v");
 }
 
@@ -186,9 +179,9 @@ TEST_F(FileChangesTest, AListWithTwoNamesIsOverwrittenUnderBoth) {
 TEST_F(FileChangesTest, KeepsOtherProcessesOut) {
   folder_.Lay(before_);
   {
-    FileChanges changes(ListPath().c_str());
+    FileChanges changes(At(kList));
     EXPECT_FALSE(EndsAtCall(0, [&] {
-      AppendLine(ListPath().c_str(), "x", IfMissing::kFail);
+      AppendLine(At(kList), "x", IfMissing::kFail);
       Change();
     }));
     AddSteps(changes);

@@ -114,19 +114,6 @@ TEST_F(LineReaderTest, TellsAMissingFileFromOneThatCannotBeOpened) {
   EXPECT_FALSE(other_case) << "the folder can't be read";
 }
 
-TEST_F(LineReaderTest, ReadsAHugeLineInPieces) {
-  constexpr std::size_t kSize = std::size_t{64} << 20;
-  folder_.Write("file", std::string(kSize, 'x'));
-  LineReader reader((folder_.Path() / "file").c_str(), 3199);
-  std::string_view line;
-  std::size_t total = 0;
-  while (reader.ReadLine(line)) {
-    ASSERT_LE(line.size(), 3198u);
-    total += line.size();
-  }
-  EXPECT_EQ(total, kSize);
-}
-
 TEST_F(LineReaderTest, TellsABrokenReadFromTheEnd) {
   folder_.Write("file", std::string(100, 'x') + "\nlast");
   for (const std::size_t read : {101u, 103u}) {

@@ -19,6 +19,8 @@ namespace {
 
 class LineWriterTest : public testing::Test {
  protected:
+  CString At(const std::string& name) const { return folder_.PathOf(name).c_str(); }
+
   // Plays `change` with a fault at each of its calls, and kills a process that makes it at each.
   // The folder must hold `before` or `after`, and what a change says that it did. Tried again, it
   // succeeds and leaves nothing beside.
@@ -54,42 +56,33 @@ class LineWriterTest : public testing::Test {
   ScopedFileSystem scope_{never_synced_};
 };
 
-TEST_F(LineWriterTest, CreatesAFileOrNone) {
-  ExpectAllOrNothing({}, {{"f", "a\r\nb\r\n"}},
-                     [&] { return CreateFile(folder_.PathOf("f").c_str(), "a\r\nb\r\n"); });
-}
-
-TEST_F(LineWriterTest, CreatesOverAnOldFileOrKeepsIt) {
-  for (const std::string old : {"", "x\r\n", "a much longer content than the new one\r\n"}) {
-    ExpectAllOrNothing({{"f", old}}, {{"f", "a\r\nb\r\n"}},
-                       [&] { return CreateFile(folder_.PathOf("f").c_str(), "a\r\nb\r\n"); });
+TEST_F(LineWriterTest, CreatesAFileOrKeepsWhatWasThere) {
+  const Files after = {{"f", "a\r\nb\r\n"}};
+  const std::string longer = "a much longer content than the new one\r\n";
+  for (const Files& before :
+       {Files(), Files{{"f", ""}}, Files{{"f", "x\r\n"}}, Files{{"f", longer}}}) {
+    ExpectAllOrNothing(before, after, [&] { return CreateFile(At("f"), "a\r\nb\r\n"); });
   }
 }
 
 TEST_F(LineWriterTest, AppendsALineOrNone) {
-  const auto append = [&] {
-    return AppendLine(folder_.PathOf("f").c_str(), "new", IfMissing::kFail);
-  };
+  const auto append = [&] { return AppendLine(At("f"), "new", IfMissing::kFail); };
   ExpectAllOrNothing({{"f", "old\r\n"}}, {{"f", "old\r\nnew\r\n"}}, append);
   ExpectAllOrNothing({{"f", ""}}, {{"f", "new\r\n"}}, append);
   ExpectAllOrNothing({{"f", "no end"}}, {{"f", "no end\r\nnew\r\n"}}, append);
-  ExpectAllOrNothing({}, {{"f", "new\r\n"}}, [&] {
-    return AppendLine(folder_.PathOf("f").c_str(), "new", IfMissing::kCreate);
-  });
+  ExpectAllOrNothing({}, {{"f", "new\r\n"}},
+                     [&] { return AppendLine(At("f"), "new", IfMissing::kCreate); });
 }
 
 TEST_F(LineWriterTest, RewritesInPlaceOrNotAtAll) {
   for (const std::string content : {"", "a\r\n", "a content that is longer than the old one\r\n"}) {
     ExpectAllOrNothing({{"f", "first\r\nsecond\r\n"}}, {{"f", content}},
-                       [&] { return RewriteInPlace(folder_.PathOf("f").c_str(), content); });
+                       [&] { return RewriteInPlace(At("f"), content); });
   }
 }
 
 TEST_F(LineWriterTest, ReplacesThroughANewFileOrNotAtAll) {
-  const auto replace = [&] {
-    return ReplaceThroughNewFile(folder_.PathOf("f").c_str(), folder_.PathOf("f.new").c_str(),
-                                 "new\r\n");
-  };
+  const auto replace = [&] { return ReplaceThroughNewFile(At("f"), At("f.new"), "new\r\n"); };
   ExpectAllOrNothing({{"f", "old content\r\n"}}, {{"f", "new\r\n"}}, replace);
   folder_.Lay({{"f", "old\r\n"}, {"f.new", "left behind, and longer than the new content\r\n"}});
   EXPECT_TRUE(replace());
@@ -97,9 +90,7 @@ TEST_F(LineWriterTest, ReplacesThroughANewFileOrNotAtAll) {
 }
 
 TEST_F(LineWriterTest, RenamesOrNotAtAll) {
-  const auto rename = [&] {
-    return RenameFile(folder_.PathOf("a").c_str(), folder_.PathOf("b").c_str());
-  };
+  const auto rename = [&] { return RenameFile(At("a"), At("b")); };
   ExpectAllOrNothing({{"a", "A"}}, {{"b", "A"}}, rename);
   folder_.Lay({{"a", "A"}, {"B", "B"}});
   EXPECT_FALSE(rename()) << "the name is taken, in another case";
@@ -107,51 +98,49 @@ TEST_F(LineWriterTest, RenamesOrNotAtAll) {
 }
 
 TEST_F(LineWriterTest, WhatMustExistIsNotMade) {
-  EXPECT_FALSE(AppendLine(folder_.PathOf("f").c_str(), "new", IfMissing::kFail));
-  EXPECT_FALSE(RewriteInPlace(folder_.PathOf("f").c_str(), "new"));
-  EXPECT_FALSE(
-      ReplaceThroughNewFile(folder_.PathOf("f").c_str(), folder_.PathOf("g").c_str(), "new"));
-  EXPECT_FALSE(RemoveFile(folder_.PathOf("f").c_str()));
-  EXPECT_FALSE(RenameFile(folder_.PathOf("f").c_str(), folder_.PathOf("g").c_str()));
-  EXPECT_FALSE(FileExists(folder_.PathOf("f").c_str()));
+  EXPECT_FALSE(AppendLine(At("f"), "new", IfMissing::kFail));
+  EXPECT_FALSE(RewriteInPlace(At("f"), "new"));
+  EXPECT_FALSE(ReplaceThroughNewFile(At("f"), At("g"), "new"));
+  EXPECT_FALSE(RemoveFile(At("f")));
+  EXPECT_FALSE(RenameFile(At("f"), At("g")));
+  EXPECT_FALSE(FileExists(At("f")));
   EXPECT_EQ(folder_.Content(), Files());
 }
 
 // Three ways to give the file `name` new content.
-std::vector<std::function<bool()>> Rewrites(const std::string& path, const std::string& content) {
-  return {[=] { return CreateFile(path.c_str(), content); },
-          [=] { return RewriteInPlace(path.c_str(), content); },
-          [=] { return ReplaceThroughNewFile(path.c_str(), (path + ".new").c_str(), content); }};
+std::vector<std::function<bool()>> Rewrites(const CString& path, const std::string& content) {
+  return {[=] { return CreateFile(path, content); }, [=] { return RewriteInPlace(path, content); },
+          [=] { return ReplaceThroughNewFile(path, path + ".new", content); }};
 }
 
 TEST_F(LineWriterTest, NewContentTakesOverWhatTheFileWas) {
-  for (const auto& rewrite : Rewrites(folder_.PathOf("link"), "new")) {
+  for (const auto& rewrite : Rewrites(At("link"), "new")) {
     folder_.Lay({{"file", "old"}});
     std::filesystem::create_directory_symlink(".", folder_.Path() / "here");
     std::filesystem::create_symlink("here/file", folder_.Path() / "link");
-    ASSERT_EQ(chmod(folder_.PathOf("file").c_str(), 0604), 0);
+    ASSERT_EQ(chmod(At("file"), 0604), 0);
     if (geteuid() == 0) {
-      ASSERT_EQ(chown(folder_.PathOf("file").c_str(), 1234, 2345), 0);
+      ASSERT_EQ(chown(At("file"), 1234, 2345), 0);
     }
-    const bool extended = setxattr(folder_.PathOf("file").c_str(), "user.x", "1", 1, 0) == 0;
+    const bool extended = setxattr(At("file"), "user.x", "1", 1, 0) == 0;
     struct stat before {};
     struct stat after {};
-    ASSERT_EQ(stat(folder_.PathOf("file").c_str(), &before), 0);
+    ASSERT_EQ(stat(At("file"), &before), 0);
     EXPECT_TRUE(rewrite());
     EXPECT_TRUE(is_symlink(folder_.Path() / "link"));
     EXPECT_EQ(folder_.Read("file"), "new");
-    ASSERT_EQ(stat(folder_.PathOf("file").c_str(), &after), 0);
+    ASSERT_EQ(stat(At("file"), &after), 0);
     EXPECT_NE(before.st_ino, after.st_ino) << "it was not replaced";
     EXPECT_EQ(before.st_mode, after.st_mode);
     EXPECT_EQ(before.st_uid, after.st_uid);
     EXPECT_EQ(before.st_gid, after.st_gid);
     char value = '\0';
-    EXPECT_TRUE(!extended || getxattr(folder_.PathOf("file").c_str(), "user.x", &value, 1) == 1);
+    EXPECT_TRUE(!extended || getxattr(At("file"), "user.x", &value, 1) == 1);
   }
 }
 
 TEST_F(LineWriterTest, AllNamesOfAFileShowItsNewContent) {
-  for (const auto& rewrite : Rewrites(folder_.PathOf("one"), "new")) {
+  for (const auto& rewrite : Rewrites(At("one"), "new")) {
     folder_.Lay({{"one", "old and long"}});
     create_hard_link(folder_.Path() / "one", folder_.Path() / "two");
     EXPECT_TRUE(rewrite());
@@ -161,8 +150,8 @@ TEST_F(LineWriterTest, AllNamesOfAFileShowItsNewContent) {
 
 TEST_F(LineWriterTest, CreatesWhatASymbolicLinkLeadsTo) {
   const std::function<bool()> kWays[] = {
-      [&] { return CreateFile(folder_.PathOf("link").c_str(), "new\r\n"); },
-      [&] { return AppendLine(folder_.PathOf("link").c_str(), "new", IfMissing::kCreate); }};
+      [&] { return CreateFile(At("link"), "new\r\n"); },
+      [&] { return AppendLine(At("link"), "new", IfMissing::kCreate); }};
   for (const auto& create : kWays) {
     folder_.Lay({});
     std::filesystem::create_symlink("second", folder_.Path() / "link");
@@ -178,7 +167,7 @@ TEST_F(LineWriterTest, CreatesWhatASymbolicLinkLeadsTo) {
 TEST_F(LineWriterTest, TakingALineBackCutsNoOtherOff) {
   constexpr int kLines = 2000;
   const auto append = [&](const std::string& line) {
-    return AppendLine(folder_.PathOf("f").c_str(), line.c_str(), IfMissing::kCreate);
+    return AppendLine(At("f"), line.c_str(), IfMissing::kCreate);
   };
   folder_.Lay({{"f", ""}});
   const Child child([&] {
@@ -212,7 +201,7 @@ TEST_F(LineWriterTest, TwoProcessesReplaceOneFile) {
     int written = 0;
     const std::string content(5000, letter);
     for (int i = 0; i < 300; ++i) {
-      written += CreateFile(folder_.PathOf("f").c_str(), content) ? 1 : 0;
+      written += CreateFile(At("f"), content) ? 1 : 0;
       const std::string found = folder_.Read("f").value_or("");
       const bool is_whole = found.size() == 5000 && found.find_first_not_of(found[0]) > 5000;
       if (!is_whole) return 0;
@@ -234,11 +223,9 @@ TEST_F(LineWriterTest, PutsFilesBackWhenTheSystemStopsAWrite) {
     const rlimit limit{1000, 1000};
     if (setrlimit(RLIMIT_FSIZE, &limit) != 0) return 1;
     const std::string more(2000, 'n');
-    const bool any = AppendLine(folder_.PathOf("append").c_str(), more.c_str(), IfMissing::kFail) ||
-                     RewriteInPlace(folder_.PathOf("rewrite").c_str(), more) ||
-                     CreateFile(folder_.PathOf("create").c_str(), more) ||
-                     ReplaceThroughNewFile(folder_.PathOf("replace").c_str(),
-                                           folder_.PathOf("new").c_str(), more);
+    const bool any = AppendLine(At("append"), more.c_str(), IfMissing::kFail) ||
+                     RewriteInPlace(At("rewrite"), more) || CreateFile(At("create"), more) ||
+                     ReplaceThroughNewFile(At("replace"), At("new"), more);
     sigset_t signals;
     sigpending(&signals);
     if (sigismember(&signals, SIGXFSZ) == 1) return 3;
@@ -254,23 +241,21 @@ TEST_F(LineWriterTest, PutsFilesBackWhenTheSystemStopsAWrite) {
 TEST_F(LineWriterTest, WhatMayOnlyBeReadStaysAsItIs) {
   const Files before{{"append", "old\r\n"}, {"rewrite", "old\r\n"}, {"replace", "old\r\n"}};
   folder_.Lay(before);
-  for (const auto& [name, bytes] : before) ASSERT_EQ(chmod(folder_.PathOf(name).c_str(), 0444), 0);
+  for (const auto& [name, bytes] : before) ASSERT_EQ(chmod(At(name), 0444), 0);
   folder_.Write("writable", "old and long\r\n");
-  ASSERT_EQ(chmod(folder_.PathOf("writable").c_str(), 0666), 0);
+  ASSERT_EQ(chmod(At("writable"), 0666), 0);
   ASSERT_EQ(chmod(folder_.Path().c_str(), 0555), 0);
 
   const Child child([&] {
     constexpr uid_t kNobody = 65534;
     if (geteuid() == 0 && setuid(kNobody) != 0) return 1;
-    const bool any = AppendLine(folder_.PathOf("append").c_str(), "new", IfMissing::kFail) ||
-                     AppendLine(folder_.PathOf("missing").c_str(), "new", IfMissing::kCreate) ||
-                     RewriteInPlace(folder_.PathOf("rewrite").c_str(), "new") ||
-                     CreateFile(folder_.PathOf("create").c_str(), "new") ||
-                     ReplaceThroughNewFile(folder_.PathOf("replace").c_str(),
-                                           folder_.PathOf("new").c_str(), "new");
+    const bool any = AppendLine(At("append"), "new", IfMissing::kFail) ||
+                     AppendLine(At("missing"), "new", IfMissing::kCreate) ||
+                     RewriteInPlace(At("rewrite"), "new") || CreateFile(At("create"), "new") ||
+                     ReplaceThroughNewFile(At("replace"), At("new"), "new");
     // There can be no second file.
-    if (!RewriteInPlace(folder_.PathOf("writable").c_str(), "new")) return 4;
-    return any ? 2 : LineReader(folder_.PathOf("append").c_str(), 99).IsOpen() ? 0 : 3;
+    if (!RewriteInPlace(At("writable"), "new")) return 4;
+    return any ? 2 : LineReader(At("append"), 99).IsOpen() ? 0 : 3;
   });
   EXPECT_EQ(child.Status(), 0);
   ASSERT_EQ(chmod(folder_.Path().c_str(), 0777), 0);
