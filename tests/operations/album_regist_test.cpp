@@ -48,8 +48,6 @@ TEST_F(AlbumRegistTest, EveryOtherEndReturnsTheFixedText) {
   escape.OpensDialog(148).Escape();
   EXPECT_EQ(CallWith(cancel, ""), kGivenUp);
   EXPECT_EQ(CallWith(escape, ""), kGivenUp);
-  ScopedFrontEnd no_screen(nullptr);
-  EXPECT_EQ(OnDLLAlbumRegist(-1, "1", "2", "", ""), kGivenUp);
 }
 
 TEST_F(AlbumRegistTest, EachAdditionIsInTheFileAtOnce) {

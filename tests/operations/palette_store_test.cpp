@@ -1,4 +1,6 @@
 // The palette editor on its files: register, update, delete, edit.
+#include <tuple>
+
 #include "appearance/palette_list.h"
 #include "tests/operations/palette_fixture.h"
 #include "tests/support/each_fault.h"
@@ -190,14 +192,7 @@ TEST_F(PaletteTest, ADeletionMakesRoomForTheNewEntry) {
 }
 
 // All that a click may change: the files, and the list as the user sees it.
-struct Scene {
-  Files files;
-  std::vector<std::vector<std::string>> rows;
-  std::string name;
-  int row = -1;
-
-  bool operator==(const Scene&) const = default;
-};
+using Scene = std::tuple<Files, std::vector<std::vector<std::string>>, std::string, int>;
 
 class FailingDiskTest : public PaletteTest {
  protected:
@@ -206,15 +201,11 @@ class FailingDiskTest : public PaletteTest {
   const Files before = folder.Content();
 
   Scene Look(const ControlSession& session) const {
-    Scene scene;
-    scene.files = folder.Content();
+    Files files = folder.Content();
     // What is left of a second file goes with the next write.
-    std::erase_if(scene.files, [](const auto& file) { return file.first.front() == '.'; });
+    std::erase_if(files, [](const auto& file) { return file.first.front() == '.'; });
     const ControlView view = ControlOf(session, kNames);
-    scene.rows = view.rows;
-    scene.name = view.text;
-    scene.row = view.selection;
-    return scene;
+    return {files, view.rows, view.text, view.selection};
   }
 
   // Plays `prepare`, then clicks on a disk with faults. What was before the click, and what is once

@@ -16,14 +16,6 @@ TEST_F(PaletteTest, ShowsTheListAndTheColoursOfTheChosenPalette) {
   EXPECT_EQ(folder.Read(kList), List(2));
 }
 
-TEST_F(PaletteTest, CancelReturnsNothing) {
-  script.Click(2);
-  EXPECT_EQ(Call(0), "");
-  ScriptFrontEnd other;
-  other.OpensDialog(177).Escape();
-  EXPECT_EQ(CallWith(other, 0), "");
-}
-
 TEST_F(PaletteTest, ARowThatTheListLacksStaysTheChosenOne) {
   for (const int selected : {-1, 3, 99}) {
     ScriptFrontEnd visit;
