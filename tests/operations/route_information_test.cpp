@@ -156,7 +156,7 @@ TEST_F(RouteInformationTest, AChangeThatFailsIsARefusedClick) {
         const bool changed = folder.Read(kRoutes) == c.after;
         refusals += changed ? 0 : 1;
         EXPECT_TRUE(changed || folder.Read(kRoutes) == before);
-        EXPECT_EQ(ControlOf(session, 1078).rows[0][0], changed ? c.first : "x");
+        EXPECT_EQ(ControlOf(session, 1078).rows.at(0).at(0), changed ? c.first : "x");
         EXPECT_EQ(ControlOf(session, 1080).text, "new");
         return "";
       });

@@ -229,16 +229,16 @@ TEST_F(MapsTest, OneEntryChangesOfWhatTheListHoldsByThen) {
       {{kList, Entry("x", "a") + Entry("y", "b") + Entry("x", "a")}, {"a", "1"}, {"b", "2"}});
   MasterList shown = Read();
   std::size_t index = 2;
-  folder.Write(kList, Entry("new", "c") + Entry("x", "a") + Entry("x", "a"));
+  folder.Write(kList, Entry("x", "a") + Entry("x", "a") + Entry("new", "c"));
   EXPECT_TRUE(RenameMap(ListPath(), shown, index, {"z", folder.PathOf("a").c_str()}));
-  EXPECT_EQ(index, 2u);
-  EXPECT_EQ(folder.Read(kList), Entry("new", "c") + Entry("x", "a") + Entry("z", "a"));
-  EXPECT_TRUE(DeleteMap(ListPath(), shown, 1, folder.PathOf("a").c_str()));
-  EXPECT_EQ(folder.Content(), (Files{{kList, Entry("new", "c") + Entry("z", "a")}, {"b", "2"}}));
+  EXPECT_EQ(index, 1u);
+  EXPECT_EQ(folder.Read(kList), Entry("x", "a") + Entry("z", "a") + Entry("new", "c"));
+  EXPECT_TRUE(DeleteMap(ListPath(), shown, 0, folder.PathOf("a").c_str()));
+  EXPECT_EQ(folder.Content(), (Files{{kList, Entry("z", "a") + Entry("new", "c")}, {"b", "2"}}));
   folder.Write(kList, Entry("z", "other"));
-  index = 1;
+  index = 0;
   EXPECT_FALSE(RenameMap(ListPath(), shown, index, {"w", folder.PathOf("b").c_str()}));
-  EXPECT_FALSE(DeleteMap(ListPath(), shown, 1, folder.PathOf("b").c_str()));
+  EXPECT_FALSE(DeleteMap(ListPath(), shown, 0, folder.PathOf("b").c_str()));
   EXPECT_EQ(folder.Content(), (Files{{kList, Entry("z", "other")}, {"b", "2"}}));
 }
 
