@@ -30,10 +30,13 @@ CString OnRouteInformation(int kind, CString display, CString editor, CString fo
   });
 }
 
+// The host's interface passes texts by value, those that aren't used as well.
+// NOLINTBEGIN(performance-unnecessary-value-param)
 CString OnRouteRegistModule(int shape, int size, CString folder, CString, CString, CString mode,
                             CString caption1, CString caption2, CString, CString,
                             CString centre_latitude, CString centre_longitude, CString list_display,
                             CString file_display, CString list) {
+  // NOLINTEND(performance-unnecessary-value-param)
   return RunOperation(CString(kCancelled), [&]() -> CString {
     CDlgAlbumFiles dialog;
     dialog.m_strMode = mode;

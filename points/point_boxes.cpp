@@ -8,7 +8,7 @@ namespace orreryui {
 DataLine ShowPoint(CDialog& dialog, const PointBoxes& boxes, const std::vector<CString>& points,
                    int row) {
   const bool exists = row >= 0 && row < static_cast<int>(points.size());
-  const DataLine point = exists ? UnpackPoint(points[static_cast<std::size_t>(row)]) : DataLine();
+  DataLine point = exists ? UnpackPoint(points[static_cast<std::size_t>(row)]) : DataLine();
   dialog.SetDlgItemText(boxes.place, point.place);
   dialog.SetDlgItemText(boxes.item, point.item);
   dialog.SetDlgItemText(boxes.latitude, point.latitude);

@@ -47,6 +47,7 @@ CString MakeMemberName(const CString& folder, MapKind kind) {
 
 std::vector<CString> MemberLines(const std::vector<CString>& points) {
   std::vector<CString> lines;
+  lines.reserve(points.size());
   for (const CString& packed : points) lines.push_back(MemberLine(packed));
   return lines;
 }

@@ -17,6 +17,9 @@ constexpr char kGlyphLanguage[] = "FC_LANG";
 constexpr const char* kVariables[] = {kLocale, kGlyphLanguage, "DESKTOP_STARTUP_ID",
                                       "XDG_ACTIVATION_TOKEN"};
 
+// This file is where the process's state is changed for a moment; the public header warns hosts.
+// NOLINTBEGIN(concurrency-mt-unsafe)
+
 std::optional<std::string> Variable(const char* name) {
   const char* const value = std::getenv(name);
   return value != nullptr ? std::optional<std::string>(value) : std::nullopt;
@@ -60,5 +63,7 @@ ProcessState::~ProcessState() {
   }
   std::setlocale(LC_ALL, locale_.c_str());
 }
+
+// NOLINTEND(concurrency-mt-unsafe)
 
 }  // namespace orreryui
