@@ -22,11 +22,15 @@ class TemplateTest : public testing::TestWithParam<const DialogTemplate*> {
   const DialogTemplate& dialog_template = *GetParam();
 };
 
-TEST_P(TemplateTest, NumbersAreUnique) {
+TEST_P(TemplateTest, NumbersAreUniqueAndRadioButtonsStandInGroupsThatBegin) {
   std::set<int> ids;
+  ControlKind before = ControlKind::kStatic;
   for (const ControlTemplate& control : dialog_template.controls) {
-    if (control.id == kNoControlId) continue;
-    EXPECT_TRUE(ids.insert(control.id).second) << control.id;
+    EXPECT_TRUE(control.id == kNoControlId || ids.insert(control.id).second) << control.id;
+    const bool begins =
+        control.kind == ControlKind::kRadioButton && before != ControlKind::kRadioButton;
+    EXPECT_TRUE(!begins || (control.flags & kGroupStart) != 0) << control.id;
+    before = control.kind;
   }
 }
 
@@ -45,16 +49,6 @@ TEST_P(TemplateTest, ControlsLieInsideAndApart) {
       EXPECT_TRUE(!Overlap(place, controls[j].place) || (framed && inside))
           << controls[i].id << " and " << controls[j].id;
     }
-  }
-}
-
-TEST_P(TemplateTest, RadioButtonsStandInGroupsThatBegin) {
-  ControlKind before = ControlKind::kStatic;
-  for (const ControlTemplate& control : dialog_template.controls) {
-    if (control.kind == ControlKind::kRadioButton && before != ControlKind::kRadioButton) {
-      EXPECT_TRUE((control.flags & kGroupStart) != 0) << control.id;
-    }
-    before = control.kind;
   }
 }
 

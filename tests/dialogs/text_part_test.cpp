@@ -118,20 +118,12 @@ TEST(TextPart, TypingChangesThePartAndNothingElse) {
 TEST(TextPart, ATextIsWholeUnlessItIsLongInBytesAndInLines) {
   const std::string megabyte(kLongestWholeText, 'a');
   const std::string empty_lines(kLongestWholeText, '\n');
-  struct Case {
-    std::string text;
-    TextPart part;
-  };
-  const Case cases[] = {
-      {"", {0, 1, 1}},
-      {"\r\n", {0, 2, 2}},
-      {empty_lines, {0, 1 << 20, 1 << 20 | 1}},
-      {megabyte + "\n" + megabyte, {0, 2, 2}},
-  };
-  for (const Case& one : cases) {
-    Box(one.text).Play([&](ControlSession& session) {
-      EXPECT_TRUE(Look(session).text == one.text);
-      EXPECT_EQ(Look(session).part.all, one.part.all);
+  const std::pair<std::string, int> cases[] = {
+      {"", 1}, {"\r\n", 2}, {empty_lines, 1 << 20 | 1}, {megabyte + "\n" + megabyte, 2}};
+  for (const auto& [text, lines] : cases) {
+    Box(text).Play([&, text = text, lines = lines](ControlSession& session) {
+      EXPECT_TRUE(Look(session).text == text);
+      EXPECT_EQ(Look(session).part.all, lines);
     });
   }
   Box("\n\r\n" + empty_lines).Play([&](ControlSession& session) {

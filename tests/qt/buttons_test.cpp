@@ -14,33 +14,31 @@ namespace {
 
 using testing::ElementsAre;
 
-QColor MiddleOf(QWidget& widget) {
-  return widget.grab().toImage().pixelColor(widget.rect().center());
-}
+class Buttons : public OnScreen {};
 
-TEST(Buttons, AmpersandIsOnlyText) {
-  FakeSession session;
+TEST_F(Buttons, LabelsAreOnlyTextAndAGroupBoxLetsClicksThrough) {
   session.Add(ControlKind::kPushButton, 1, "A&B");
   session.Add(ControlKind::kCheckBox, 2, "C&D");
   session.Add(ControlKind::kStatic, 3, "E&F <b>");
-  RunWithUser(session, [&](QDialog& window) {
-    EXPECT_EQ(ControlWidget<QPushButton>(window, 1).text(), "A&&B");
-    EXPECT_EQ(ControlWidget<QPushButton>(window, 1).accessibleName(), "A&B");
+  session.Add(ControlKind::kGroupBox, 4, "枠&").place = {0, 0, 190, 40};
+  Run([&](QDialog& window) {
+    const auto& button = ControlWidget<QPushButton>(window, 1);
+    EXPECT_EQ(button.text(), "A&&B");
+    EXPECT_EQ(button.accessibleName(), "A&B");
+    EXPECT_EQ(window.childAt(button.mapTo(&window, button.rect().center())), &button);
     EXPECT_EQ(ControlWidget<QCheckBox>(window, 2).text(), "C&&D");
     EXPECT_EQ(ControlWidget<QLabel>(window, 3).text(), "E&F <b>");
     EXPECT_EQ(ControlWidget<QLabel>(window, 3).textFormat(), Qt::PlainText);
+    EXPECT_EQ(ControlWidget<QGroupBox>(window, 4).title(), "枠&&");
     QTest::keyClick(&window, Qt::Key_B, Qt::AltModifier);
     EXPECT_THAT(session.Take(), ElementsAre());
   });
 }
 
-TEST(Buttons, PressMovesTheFocusAndReleaseClicks) {
-  FakeSession session;
+TEST_F(Buttons, PressMovesTheFocusAndReleaseClicks) {
   session.Add(ControlKind::kPushButton, 1, "一");
   session.Add(ControlKind::kPushButton, 2, "二");
-  session.layout.focus = 1;
-  RunWithUser(session, [&](QDialog& window) {
-    auto& second = ControlWidget<QPushButton>(window, 2);
+  RunAt<QPushButton>(2, [&](QPushButton& second) {
     QTest::mousePress(&second, Qt::LeftButton);
     EXPECT_THAT(session.Take(), ElementsAre("focus 2"));
     QTest::mouseRelease(&second, Qt::LeftButton);
@@ -50,12 +48,10 @@ TEST(Buttons, PressMovesTheFocusAndReleaseClicks) {
   });
 }
 
-TEST(Buttons, CheckBoxesShowTheModelWhateverWasClicked) {
-  FakeSession session;
+TEST_F(Buttons, CheckBoxesShowTheModelWhateverWasClicked) {
   session.Add(ControlKind::kCheckBox, 1, "一");
   session.Add(ControlKind::kPushLikeCheckBox, 2, "二");
-  session.layout.focus = 1;
-  RunWithUser(session, [&](QDialog& window) {
+  Run([&](QDialog& window) {
     auto& check = ControlWidget<QCheckBox>(window, 1);
     auto& push_like = ControlWidget<QPushButton>(window, 2);
     QTest::mouseClick(&check, Qt::LeftButton);
@@ -69,90 +65,68 @@ TEST(Buttons, CheckBoxesShowTheModelWhateverWasClicked) {
   });
 }
 
-class RadioButtons : public testing::Test {
+class RadioButtons : public OnScreen {
  protected:
   RadioButtons() {
-    session_.Add(ControlKind::kPushButton, 9, "前");
-    for (int id = 1; id <= 4; ++id) session_.Add(ControlKind::kRadioButton, id, "項");
-    session_.At(1).starts_group = true;
-    session_.At(3).starts_group = true;
-    session_.At(1).checked = true;
-    session_.At(4).checked = true;
+    session.Add(ControlKind::kPushButton, 9, "前");
+    for (int id = 1; id <= 4; ++id) session.Add(ControlKind::kRadioButton, id, "項");
+    session.At(1).starts_group = true;
+    session.At(3).starts_group = true;
+    session.At(1).checked = true;
+    session.At(4).checked = true;
   }
-
-  // Does what the platform does on a click, the groups being 1, 2 and 3, 4.
-  void FollowClicks() {
-    session_.handler = [this](const std::string& gesture) {
-      if (gesture.rfind("click ", 0) != 0) return;
-      const int id = std::stoi(gesture.substr(6));
-      for (int other : {id, id % 2 == 1 ? id + 1 : id - 1}) {
-        session_.Change(other, [&](ControlView& view) { view.checked = other == id; });
-      }
-    };
-  }
-
-  std::string Checked(QDialog& window) {
-    std::string checked;
-    for (int id = 1; id <= 4; ++id) {
-      checked += ControlWidget<QRadioButton>(window, id).isChecked() ? '1' : '0';
-    }
-    return checked;
-  }
-
-  FakeSession session_;
 };
 
 TEST_F(RadioButtons, GoBackWhereTheModelDoesNotFollow) {
-  RunWithUser(session_, [&](QDialog& window) {
+  Run([&](QDialog& window) {
     QTest::mouseClick(&ControlWidget<QRadioButton>(window, 2), Qt::LeftButton);
-    EXPECT_THAT(session_.Take(), ElementsAre("focus 2", "click 2"));
-    EXPECT_EQ(Checked(window), "1001");
+    EXPECT_THAT(session.Take(), ElementsAre("focus 2", "click 2"));
+    for (int id = 1; id <= 4; ++id) {
+      EXPECT_EQ(ControlWidget<QRadioButton>(window, id).isChecked(), id == 1 || id == 4) << id;
+    }
   });
 }
 
 TEST_F(RadioButtons, ArrowKeysTurnOnWhatTheyReachFromWhereverTheFocusIs) {
-  session_.At(2).starts_group = false;
-  session_.At(3).starts_group = false;
-  session_.At(3).enabled = false;
-  session_.layout.focus = 2;  // which is off
+  session.At(2).starts_group = false;
+  session.At(3).starts_group = false;
+  session.At(3).enabled = false;
+  session.layout.focus = 2;  // which is off
   const std::pair<Qt::Key, std::string> cases[] = {
       {Qt::Key_Right, "4"}, {Qt::Key_Down, "1"}, {Qt::Key_Left, "4"}, {Qt::Key_Up, "2"}};
-  RunWithUser(session_, [&](QDialog& window) {
+  Run([&](QDialog& window) {
     for (const auto& [key, id] : cases) {
       QTest::keyClick(window.focusWidget(), key);
-      EXPECT_THAT(session_.Take(), ElementsAre("focus " + id, "click " + id));
+      EXPECT_THAT(session.Take(), ElementsAre("focus " + id, "click " + id));
       EXPECT_EQ(window.focusWidget()->objectName().toStdString(), id);
     }
   });
 }
 
 TEST_F(RadioButtons, TheTabKeyGoesToTheButtonThatIsOn) {
-  session_.layout.focus = 9;
-  RunWithUser(session_, [&](QDialog& window) {
+  Run([&](QDialog& window) {
     const auto tab_goes_to = [&](const char* id) {
       QTest::keyClick(window.focusWidget(), Qt::Key_Tab);
       EXPECT_EQ(window.focusWidget()->objectName(), id);
     };
-    session_.Change(1, [](ControlView& view) { view.checked = false; });
-    session_.Change(2, [](ControlView& view) { view.checked = true; });
+    session.Change(1, [](ControlView& view) { view.checked = false; });
+    session.Change(2, [](ControlView& view) { view.checked = true; });
     tab_goes_to("2");
     tab_goes_to("4");
     tab_goes_to("9");
-    session_.Change(2, [](ControlView& view) { view.checked = false; });
+    session.Change(2, [](ControlView& view) { view.checked = false; });
     tab_goes_to("1");
-    session_.Change(3, [](ControlView& view) { view.checked = true; });
-    session_.Change(4, [](ControlView& view) { view.checked = false; });
+    session.Change(3, [](ControlView& view) { view.checked = true; });
+    session.Change(4, [](ControlView& view) { view.checked = false; });
     tab_goes_to("3");
   });
 }
 
-TEST(Buttons, SwatchShowsColourAndFrame) {
-  FakeSession session;
+TEST_F(Buttons, SwatchShowsColourAndFrame) {
   session.Add(ControlKind::kStatic, kNoControlId, "海岸線");
   session.Add(ControlKind::kSwatch, 1).swatch = {0x00112233u, std::nullopt};
-  RunWithUser(session, [&](QDialog& window) {
-    auto& swatch = ControlWidget<QPushButton>(window, 1);
-    EXPECT_EQ(MiddleOf(swatch), QColor(0x33, 0x22, 0x11));
+  RunAt<QPushButton>(1, [&](QPushButton& swatch) {
+    EXPECT_EQ(swatch.grab().toImage().pixelColor(swatch.rect().center()), QColor(0x33, 0x22, 0x11));
     EXPECT_THAT(swatch.accessibleName().toStdString(), testing::StartsWith("海岸線"));
     session.Change(1, [](ControlView& view) { view.swatch = {0x000000FFu, 0x00FF0000u}; });
     const QImage picture = swatch.grab().toImage();
@@ -163,23 +137,10 @@ TEST(Buttons, SwatchShowsColourAndFrame) {
   });
 }
 
-TEST(Buttons, GroupBoxLetsClicksThrough) {
-  FakeSession session;
-  session.Add(ControlKind::kPushButton, 1, "中");
-  ControlView& box = session.Add(ControlKind::kGroupBox, 2, "枠&");
-  box.place = {0, 0, 190, 40};
-  RunWithUser(session, [&](QDialog& window) {
-    EXPECT_EQ(ControlWidget<QGroupBox>(window, 2).title(), "枠&&");
-    const auto& button = ControlWidget<QPushButton>(window, 1);
-    EXPECT_EQ(window.childAt(button.mapTo(&window, button.rect().center())), &button);
-  });
-}
-
-TEST(Buttons, HiddenAndDisabledFollowTheModel) {
-  FakeSession session;
+TEST_F(Buttons, HiddenAndDisabledFollowTheModel) {
   session.Add(ControlKind::kPushButton, 1, "一").enabled = false;
   session.Add(ControlKind::kPushButton, 2, "二").visible = false;
-  RunWithUser(session, [&](QDialog& window) {
+  Run([&](QDialog& window) {
     auto& first = ControlWidget<QPushButton>(window, 1);
     QTest::mouseClick(&first, Qt::LeftButton);
     EXPECT_FALSE(first.isEnabled());

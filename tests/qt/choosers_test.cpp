@@ -290,6 +290,8 @@ TEST_F(FilePanel, HearsOfTheRowsOfFilesAndOfFoldersAndNotOfNames) {
       EXPECT_EQ(Label(front), "選&&択");
     };
     auto* const name = front.findChild<QLineEdit*>("fileNameEdit");
+    const auto is_sorted = [&] { return RowOf(front, "a.txt").y() < RowOf(front, "b.txt").y(); };
+    EXPECT_TRUE(QTest::qWaitFor(is_sorted));  // which comes after the reading
     ClickRow(front, "a.txt");
     expect({"file " + InFolder("a.txt")});
     QTest::keyClick(&Rows(front), Qt::Key_Down);

@@ -24,32 +24,36 @@ void Compose(QWidget& widget, const QString& preedit, const QString& commit = {}
   QApplication::sendEvent(&widget, &event);
 }
 
-// Runs `user` in a box that has the focus.
-template <class Edit, class User>
-void RunInBox(ControlKind kind, const std::string& text, User user) {
-  FakeSession session;
-  session.Add(kind, 1, text);
-  session.layout.focus = 1;
-  RunWithUser(session, [&](QDialog& window) { user(session, ControlWidget<Edit>(window, 1)); });
+class Edits : public OnScreen {
+ protected:
+  // Runs `user` in a box that has the focus.
+  template <class Edit, class User>
+  void RunInBox(ControlKind kind, const std::string& text, User user) {
+    session = {};
+    session.Add(kind, 1, text, 60);
+    RunAt<Edit>(1, user);
+  }
+};
+
+TEST_F(Edits, EachKeyReportsTheWholeTextAndAHandlerReplacesIt) {
+  for (ControlKind kind : {kLine, kLines}) {
+    RunInBox<QWidget>(kind, "鎌\u00A0倉", [&](QWidget& edit) {
+      QTest::keyClick(&edit, Qt::Key_End);
+      QTest::keyClicks(&edit, "12");
+      EXPECT_THAT(session.Take(), ElementsAre("type 1 鎌\u00A0倉1", "type 1 鎌\u00A0倉12"));
+      QMetaObject::invokeMethod(&edit, "undo");
+      EXPECT_EQ(session.Take().back(), "type 1 鎌\u00A0倉");
+      session.Change(1, [](ControlView& view) { view.text = "登録されました！"; });
+      EXPECT_THAT(session.Take(), ElementsAre());
+      EXPECT_EQ(edit.property(kind == kLine ? "text" : "plainText"), "登録されました！");
+    });
+  }
 }
 
-TEST(Edits, EachKeyReportsTheWholeText) {
-  RunInBox<QLineEdit>(kLine, "鎌倉", [](FakeSession& session, QLineEdit& edit) {
-    edit.end(false);
-    QTest::keyClicks(&edit, "12");
-    EXPECT_THAT(session.Take(), ElementsAre("type 1 鎌倉1", "type 1 鎌倉12"));
-    edit.undo();
-    EXPECT_EQ(session.At(1).text, edit.text().toStdString());
-  });
-}
-
-TEST(Edits, RefusedCharactersAreLeftOutAndNamed) {
+TEST_F(Edits, RefusedCharactersAreLeftOutAndNamed) {
   for (ControlKind kind : {kLine, kLines, ControlKind::kComboBox, ControlKind::kSimpleComboBox}) {
-    FakeSession session;
-    session.Add(kind, 1, "abc", 60);
-    session.refused_characters = "x";
-    session.layout.focus = 1;
-    RunWithUser(session, [&](QDialog& window) {
+    RunInBox<QWidget>(kind, "abc", [&](const QWidget&) {
+      session.refused_characters = "x";
       QWidget* const edit = QApplication::focusWidget();
       ASSERT_NE(edit, nullptr);
       QTest::keyClick(edit, Qt::Key_Home);
@@ -58,17 +62,15 @@ TEST(Edits, RefusedCharactersAreLeftOutAndNamed) {
       EXPECT_EQ(session.At(1).text, "aybc");
       EXPECT_THAT(session.Take(), ElementsAre("type 1 abc", "type 1 aybc"));
       EXPECT_THAT(QToolTip::text().toStdString(), HasSubstr("x"));
-      const QVariant text = edit->inputMethodQuery(Qt::ImSurroundingText);
-      EXPECT_EQ(text.toString(), "aybc");
+      EXPECT_EQ(edit->inputMethodQuery(Qt::ImSurroundingText).toString(), "aybc");
       EXPECT_EQ(edit->inputMethodQuery(Qt::ImCursorPosition).toInt(), 2);
-      static_cast<void>(window);
     });
   }
 }
 
-TEST(Edits, CompositionKeepsItsTextAndItsKeys) {
+TEST_F(Edits, CompositionKeepsItsTextAndItsKeys) {
   for (ControlKind kind : {kLine, kLines}) {
-    RunInBox<QWidget>(kind, "", [](FakeSession& session, QWidget& edit) {
+    RunInBox<QWidget>(kind, "", [&](QWidget& edit) {
       Compose(edit, "やま");
       QTest::keyClick(&edit, Qt::Key_Return);
       QTest::keyClick(&edit, Qt::Key_Escape);
@@ -80,51 +82,39 @@ TEST(Edits, CompositionKeepsItsTextAndItsKeys) {
   }
 }
 
-TEST(Edits, LinesAreJoinedByCrLf) {
-  FakeSession session;
-  session.Add(kLines, 1, "一\r\n二", 40).tall_scroll_bar = true;
-  session.layout.focus = 1;
-  RunWithUser(session, [&](QDialog& window) {
-    auto& edit = ControlWidget<QPlainTextEdit>(window, 1);
-    EXPECT_EQ(edit.toPlainText(), "一\n二");
-    EXPECT_EQ(edit.verticalScrollBarPolicy(), Qt::ScrollBarAlwaysOn);
-    edit.moveCursor(QTextCursor::End);
-    QTest::keyClick(&edit, Qt::Key_Return);
-    QTest::keyClick(&edit, Qt::Key_3);
-    EXPECT_THAT(session.Take(), ElementsAre("type 1 一\r\n二\r\n", "type 1 一\r\n二\r\n3"));
-    EXPECT_EQ(edit.toPlainText(), "一\n二\n3");
-  });
-}
-
-TEST(Edits, EnterBreaksTheLineAtTheCursorWhateverKeysAreHeld) {
+TEST_F(Edits, EnterBreaksTheLineAtTheCursorWhateverKeysAreHeld) {
   const Qt::KeyboardModifiers held[] = {Qt::NoModifier, Qt::ShiftModifier, Qt::ControlModifier,
                                         Qt::AltModifier, Qt::KeypadModifier};
   for (const Qt::KeyboardModifiers modifiers : held) {
-    RunInBox<QPlainTextEdit>(kLines, "一二", [&](FakeSession& session, QPlainTextEdit& edit) {
-      edit.moveCursor(QTextCursor::Start);
-      edit.moveCursor(QTextCursor::NextCharacter);
+    RunInBox<QPlainTextEdit>(kLines, "一\r\n二三", [&](QPlainTextEdit& edit) {
+      EXPECT_EQ(edit.toPlainText(), "一\n二三");
+      edit.moveCursor(QTextCursor::End);
+      edit.moveCursor(QTextCursor::PreviousCharacter);
       const bool keypad = modifiers == Qt::KeypadModifier;
       QTest::keyClick(&edit, keypad ? Qt::Key_Enter : Qt::Key_Return, modifiers);
-      EXPECT_THAT(session.Take(), ElementsAre("type 1 一\r\n二"));
-      EXPECT_EQ(edit.textCursor().position(), 2);
+      EXPECT_THAT(session.Take(), ElementsAre("type 1 一\r\n二\r\n三"));
+      EXPECT_EQ(edit.textCursor().position(), 4);
       edit.undo();
-      EXPECT_THAT(session.Take(), ElementsAre("type 1 一二"));
+      EXPECT_THAT(session.Take(), ElementsAre("type 1 一\r\n二三"));
+      edit.moveCursor(QTextCursor::End);
+      QTest::keyClick(&edit, Qt::Key_Return);
+      QTest::keyClick(&edit, Qt::Key_4);
+      EXPECT_EQ(session.Take().back(), "type 1 一\r\n二三\r\n4");
+      EXPECT_EQ(edit.toPlainText(), "一\n二三\n4");
     });
   }
 }
 
-TEST(Edits, ALongTextShowsItsBeginning) {
+TEST_F(Edits, ALongTextShowsItsBeginning) {
   const std::string text(200, 'x');
-  FakeSession session;
   session.Add(ControlKind::kPushButton, 1, "OK");
   session.Add(kLine, 2, text);
   for (int id : {3, 4}) {
-    ControlView& combo =
-        session.Add(id == 3 ? ControlKind::kComboBox : ControlKind::kSimpleComboBox, id, text, 60);
-    combo.rows = {{text}};
-    combo.selection = -1;
+    const bool has_popup = id == 3;
+    session.Add(has_popup ? ControlKind::kComboBox : ControlKind::kSimpleComboBox, id, text, 60);
+    session.At(id).rows = {{text}};
   }
-  RunWithUser(session, [&](QDialog& window) {
+  Run([&](QDialog& window) {
     const QList<QLineEdit*> fields = window.findChildren<QLineEdit*>();
     ASSERT_EQ(fields.size(), 3);
     for (QLineEdit* field : fields) EXPECT_EQ(field->cursorPosition(), 0);
@@ -135,23 +125,14 @@ TEST(Edits, ALongTextShowsItsBeginning) {
   });
 }
 
-TEST(Edits, NoBreakSpacesStay) {
-  for (ControlKind kind : {kLine, kLines}) {
-    RunInBox<QWidget>(kind, "a\u00A0b", [](FakeSession& session, QWidget& edit) {
-      QTest::keyClick(&edit, Qt::Key_End);
-      QTest::keyClicks(&edit, "c");
-      EXPECT_THAT(session.Take(), ElementsAre("type 1 a\u00A0bc"));
-    });
-  }
-}
-
-TEST(Edits, LinesStandAtTheSideThatTheControlNames) {
-  FakeSession session;
+TEST_F(Edits, LinesStandAtTheSideAndHaveTheScrollBarThatTheControlNames) {
   session.Add(kLines, 1, "35", 40).right_aligned = true;
-  session.Add(kLines, 2, "35", 40);
-  RunWithUser(session, [&](QDialog& window) {
+  session.Add(kLines, 2, "35", 40).tall_scroll_bar = true;
+  Run([&](QDialog& window) {
     auto& right = ControlWidget<QPlainTextEdit>(window, 1);
     const auto& left = ControlWidget<QPlainTextEdit>(window, 2);
+    EXPECT_EQ(right.verticalScrollBarPolicy(), Qt::ScrollBarAsNeeded);
+    EXPECT_EQ(left.verticalScrollBarPolicy(), Qt::ScrollBarAlwaysOn);
     const int middle = right.viewport()->width() / 2;
     EXPECT_GT(right.cursorRect().left(), middle);
     EXPECT_LT(left.cursorRect().left(), middle);
@@ -163,36 +144,16 @@ TEST(Edits, LinesStandAtTheSideThatTheControlNames) {
   });
 }
 
-TEST(Edits, TextSetByAHandlerReplacesWhatWasTyped) {
-  for (ControlKind kind : {kLine, kLines}) {
-    RunInBox<QWidget>(kind, "", [&](FakeSession& session, QWidget& edit) {
-      session.Change(1, [](ControlView& view) { view.text = "登録されました！"; });
-      EXPECT_THAT(session.Take(), ElementsAre());
-      EXPECT_EQ(edit.property(kind == kLine ? "text" : "plainText"), "登録されました！");
-    });
-  }
-}
-
-TEST(Edits, TabGoesOnInTheOrderOfTheControls) {
-  FakeSession session;
-  session.Add(kLines, 3);
-  session.Add(kLine, 1);
-  session.Add(ControlKind::kComboBox, 2);
-  session.layout.focus = 3;
-  RunWithUser(session, [&](QDialog&) {
-    for (int tab = 0; tab < 3; ++tab) QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
-    EXPECT_THAT(session.Take(), ElementsAre("focus 1", "focus 2", "focus 3"));
-  });
-}
-
-TEST(Edits, AreNamedByTheTextBefore) {
-  FakeSession session;
+TEST_F(Edits, TabGoesOnInTheOrderOfTheControlsWhichAreNamedByTheTextBefore) {
   session.Add(ControlKind::kStatic, kNoControlId, "新規ﾌｧｲﾙ");
-  session.Add(kLine, 1);
+  session.Add(kLine, 3);
+  session.Add(kLines, 1);
   session.Add(ControlKind::kStatic, kNoControlId, "番号");
   session.Add(ControlKind::kComboBox, 2);
-  RunWithUser(session, [&](QDialog& window) {
-    EXPECT_EQ(ControlWidget<QWidget>(window, 1).accessibleName(), "新規ﾌｧｲﾙ");
+  Run([&](QDialog& window) {
+    for (int tab = 0; tab < 3; ++tab) QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    EXPECT_THAT(session.Take(), ElementsAre("focus 1", "focus 2", "focus 3"));
+    EXPECT_EQ(ControlWidget<QWidget>(window, 3).accessibleName(), "新規ﾌｧｲﾙ");
     EXPECT_EQ(ControlWidget<QWidget>(window, 2).accessibleName(), "番号");
   });
 }

@@ -19,22 +19,7 @@
 namespace orreryui {
 namespace {
 
-// The rectangles have the height and width that such texts commonly get.
-void AddTightControls(FakeSession& session) {
-  session.Add(ControlKind::kStatic, 1, "一行の固定の文字列でいっぱいの幅になる", 8);
-  session.At(1).place.width = 140;
-  session.Add(ControlKind::kStatic, 2, "二行になる長い文字列は幅が足りないところで折り返される",
-              18);
-  session.At(2).place.width = 120;
-  session.Add(ControlKind::kPushButton, 3, "上記ﾌｧｲﾙ   を削除", 22).place.width = 50;
-  session.Add(ControlKind::kPushButton, 4, "ｷｬﾝｾﾙ", 12).place.width = 32;
-  session.Add(ControlKind::kCheckBox, 5, "HD(共通領域)と指定のﾃﾞｰﾀﾌｧｲﾙを利用", 10);
-  session.At(5).place.width = 150;
-  session.Add(ControlKind::kRadioButton, 6, "表示･保存", 10).place.width = 50;
-  session.Add(ControlKind::kEdit, 7, "鎌倉(計12地点)", 12);
-  session.Add(ControlKind::kStatic, 8, "\\home\\kamakura\\documents\\albums\\hachimangu.txt", 18);
-  session.At(8).place.width = 120;
-}
+class Fit : public OnScreen {};
 
 // The label shows no more than it has room for, in so many lines.
 void ExpectShortened(const QLabel& label, int lines) {
@@ -56,23 +41,33 @@ void ExpectNothingCut(QDialog& window) {
   EXPECT_GE(edit.height(), edit.minimumSizeHint().height());
 }
 
-TEST(Fit, NoTextIsCutInALargeFont) {
+TEST_F(Fit, NoTextIsCutInALargeFont) {
   const QFont before = QApplication::font();
   QFont large = before;
   large.setPointSizeF(before.pointSizeF() * 1.7);
   QApplication::setFont(large);
-  FakeSession session;
-  AddTightControls(session);
-  RunWithUser(session, [](QDialog& window) { ExpectNothingCut(window); });
+  // The rectangles have the height and width that such texts commonly get.
+  int id = 0;
+  const auto add = [&](ControlKind kind, const char* text, int width, int height) {
+    session.Add(kind, ++id, text, height).place.width = width;
+  };
+  add(ControlKind::kStatic, "一行の固定の文字列でいっぱいの幅になる", 140, 8);
+  add(ControlKind::kStatic, "二行になる長い文字列は幅が足りないところで折り返される", 120, 18);
+  add(ControlKind::kPushButton, "上記ﾌｧｲﾙ   を削除", 50, 22);
+  add(ControlKind::kPushButton, "ｷｬﾝｾﾙ", 32, 12);
+  add(ControlKind::kCheckBox, "HD(共通領域)と指定のﾃﾞｰﾀﾌｧｲﾙを利用", 150, 10);
+  add(ControlKind::kRadioButton, "表示･保存", 50, 10);
+  add(ControlKind::kEdit, "鎌倉(計12地点)", 180, 12);
+  add(ControlKind::kStatic, "\\home\\kamakura\\documents\\albums\\hachimangu.txt", 120, 18);
+  Run(ExpectNothingCut);
   QApplication::setFont(before);
 }
 
-TEST(Fit, PartsKeepTheirProportions) {
-  FakeSession session;
+TEST_F(Fit, PartsKeepTheirProportions) {
   session.Add(ControlKind::kPushButton, 1, "OK").place = {10, 10, 50, 14};
   session.Add(ControlKind::kPushButton, 2, "OK").place = {100, 40, 100, 28};
   session.layout.height = 80;
-  RunWithUser(session, [](QDialog& window) {
+  Run([](QDialog& window) {
     const QRect first = ControlWidget<QPushButton>(window, 1).geometry();
     const QRect second = ControlWidget<QPushButton>(window, 2).geometry();
     EXPECT_NEAR(second.x(), 10 * first.x(), 10);
@@ -82,10 +77,9 @@ TEST(Fit, PartsKeepTheirProportions) {
   });
 }
 
-TEST(Fit, TextThatGrowsLaterFitsAsWell) {
-  FakeSession session;
+TEST_F(Fit, TextThatGrowsLaterFitsAsWell) {
   session.Add(ControlKind::kStatic, 1, "短", 8).place.width = 60;
-  RunWithUser(session, [&](QDialog& window) {
+  Run([&](QDialog& window) {
     const int height = window.height();
     session.Change(1, [](ControlView& view) { view.text = "字\r\n"; });
     EXPECT_EQ(window.height(), height);
@@ -102,14 +96,10 @@ TEST(Fit, TextThatGrowsLaterFitsAsWell) {
   });
 }
 
-TEST(Fit, TextThatOverflowsLosesItsMiddle) {
-  FakeSession session;
-  std::string text;
-  for (int i = 0; i < 40; ++i) text += "長い名前";
-  text += "終";
+TEST_F(Fit, TextThatOverflowsLosesItsMiddle) {
+  const std::string text = QString("長い名前").repeated(40).toStdString() + "終";
   session.Add(ControlKind::kStatic, 1, text, 18).place.width = 74;
-  RunWithUser(session, [&](QDialog& window) {
-    const auto& label = ControlWidget<QLabel>(window, 1);
+  RunAt<QLabel>(1, [&](const QLabel& label) {
     ExpectShortened(label, 2);
     EXPECT_TRUE(label.text().endsWith("終")) << "the last name of a path stays";
     EXPECT_EQ(label.toolTip().toStdString(), text);
@@ -117,24 +107,22 @@ TEST(Fit, TextThatOverflowsLosesItsMiddle) {
   });
 }
 
-TEST(Fit, ADialogThatFitsIntoTheScreenDoesNotGrowBeyondIt) {
-  FakeSession session;
+TEST_F(Fit, ADialogThatFitsIntoTheScreenDoesNotGrowBeyondIt) {
   const int screen = QGuiApplication::primaryScreen()->availableSize().width();
   session.layout.width = screen * 5 / 12;
   session.Add(ControlKind::kStatic, 1, std::string(1000, 'x'), 8).place.width = screen / 3;
-  RunWithUser(session, [&](QDialog& window) {
+  Run([&](QDialog& window) {
     EXPECT_LE(window.width(), screen);
     EXPECT_EQ(window.findChild<QScrollArea*>(), nullptr);
     ExpectShortened(ControlWidget<QLabel>(window, 1), 1);
   });
 }
 
-TEST(Fit, ADialogLargerThanTheScreenScrolls) {
-  FakeSession session;
+TEST_F(Fit, ADialogLargerThanTheScreenScrolls) {
   session.Add(ControlKind::kPushButton, 1, "OK");
   session.layout.width = 4000;
   session.layout.height = 4000;
-  RunWithUser(session, [&](QDialog& window) {
+  Run([&](QDialog& window) {
     const QSize screen = window.screen()->availableSize();
     EXPECT_LE(window.width(), screen.width());
     EXPECT_LE(window.height(), screen.height());
@@ -143,12 +131,11 @@ TEST(Fit, ADialogLargerThanTheScreenScrolls) {
   });
 }
 
-TEST(Fit, DarkPaletteReachesTheControls) {
+TEST_F(Fit, DarkPaletteReachesTheControls) {
   const QPalette before = QApplication::palette();
   QApplication::setPalette(QPalette(QColor(40, 40, 40)));
-  FakeSession session;
   session.Add(ControlKind::kStatic, 1, "字");
-  RunWithUser(session, [](QDialog& window) {
+  Run([](QDialog& window) {
     const QImage picture = window.grab().toImage();
     EXPECT_LT(picture.pixelColor(picture.width() - 1, 0).lightness(), 80);
     EXPECT_GT(ControlWidget<QLabel>(window, 1).palette().windowText().color().lightness(), 160);

@@ -14,8 +14,6 @@ namespace {
 
 using testing::ElementsAre;
 
-const std::vector<std::vector<std::string>> kRows = {{"alpha"}, {"beta"}, {"gamma"}};
-
 // Clicks into the middle of a row.
 void ClickRow(QAbstractItemView& list, int row, int column = 0, bool twice = false) {
   const QPoint place = list.visualRect(list.model()->index(row, column)).center();
@@ -24,55 +22,43 @@ void ClickRow(QAbstractItemView& list, int row, int column = 0, bool twice = fal
   QTest::mouseDClick(list.viewport(), Qt::LeftButton, {}, place);
 }
 
-ControlView& AddList(FakeSession& session, ControlKind kind) {
-  ControlView& list = session.Add(kind, 1, {}, kind == ControlKind::kComboBox ? 14 : 80);
-  list.rows = kRows;
-  return list;
-}
+class Lists : public OnScreen {
+ protected:
+  ControlView& AddList(ControlKind kind) {
+    ControlView& list = session.Add(kind, 1, {}, kind == ControlKind::kComboBox ? 14 : 80);
+    list.columns = {{"名称", 80}};
+    list.rows = {{"alpha"}, {"beta"}, {"gamma"}};
+    return list;
+  }
+};
 
-TEST(Lists, ClickPicksAlsoTheSelectedRow) {
-  FakeSession session;
-  AddList(session, ControlKind::kListBox).selection = 1;
-  RunWithUser(session, [&](QDialog& window) {
-    auto& list = ControlWidget<QListWidget>(window, 1);
+TEST_F(Lists, ClicksAndKeysPickAndAClickAlsoTheSelectedRow) {
+  AddList(ControlKind::kListBox).selection = 1;
+  RunAt<QListWidget>(1, [&](QListWidget& list) {
     EXPECT_EQ(list.currentRow(), 1);
     EXPECT_TRUE(list.item(1)->isSelected());
     ClickRow(list, 1);
-    ClickRow(list, 2);
-    EXPECT_THAT(session.Take(), ElementsAre("pick 1 1", "pick 1 2"));
-  });
-}
-
-TEST(Lists, KeysPick) {
-  FakeSession session;
-  AddList(session, ControlKind::kListBox).selection = 0;
-  session.layout.focus = 1;
-  RunWithUser(session, [&](QDialog& window) {
-    auto& list = ControlWidget<QListWidget>(window, 1);
-    QTest::keyClick(&list, Qt::Key_Down);
-    QTest::keyClick(&list, Qt::Key_G);
-    QTest::keyClick(&list, Qt::Key_End);
+    ClickRow(list, 0);
+    EXPECT_THAT(session.Take(), ElementsAre("pick 1 1", "pick 1 0"));
+    for (const Qt::Key key : {Qt::Key_Down, Qt::Key_G, Qt::Key_End}) QTest::keyClick(&list, key);
     EXPECT_THAT(session.Take(), ElementsAre("pick 1 1", "pick 1 2"));
     EXPECT_EQ(list.currentRow(), 2);
   });
 }
 
-TEST(Lists, AKeyPicksTheFirstRowWhereNoneIsSelected) {
+TEST_F(Lists, AKeyPicksTheFirstRowWhereNoneIsSelected) {
   const std::pair<Qt::Key, const char*> cases[] = {
-      {Qt::Key_Down, "pick 2 0"}, {Qt::Key_Up, "pick 2 0"},  {Qt::Key_PageDown, "pick 2 0"},
-      {Qt::Key_Home, "pick 2 0"}, {Qt::Key_End, "pick 2 1"}, {Qt::Key_Space, "pick 2 0"},
-      {Qt::Key_A, "pick 2 0"}};
+      {Qt::Key_Down, "pick 1 0"}, {Qt::Key_Up, "pick 1 0"},  {Qt::Key_PageDown, "pick 1 0"},
+      {Qt::Key_Home, "pick 1 0"}, {Qt::Key_End, "pick 1 2"}, {Qt::Key_Space, "pick 1 0"},
+      {Qt::Key_A, "pick 1 0"}};
   for (const ControlKind kind : {ControlKind::kListBox, ControlKind::kReportList}) {
     for (const auto& [key, pick] : cases) {
-      FakeSession session;
-      session.Add(ControlKind::kPushButton, 1, "OK");
-      ControlView& view = session.Add(kind, 2, {}, 80);
-      view.columns = {{"名称", 80}};
-      view.rows = {{"a"}, {"b"}};
-      view.selection = -1;
-      RunWithUser(session, [&, key = key, pick = pick](QDialog& window) {
+      session = {};
+      session.Add(ControlKind::kPushButton, 2, "OK");
+      AddList(kind);
+      Run([&, key = key, pick = pick](QDialog& window) {
         QTest::keyClick(window.focusWidget(), Qt::Key_Tab);
-        EXPECT_EQ(window.focusWidget()->objectName(), "2");
+        EXPECT_EQ(window.focusWidget()->objectName(), "1");
         QTest::keyClick(window.focusWidget(), key);
         EXPECT_THAT(session.Take(), testing::Contains(pick)) << key;
       });
@@ -80,29 +66,23 @@ TEST(Lists, AKeyPicksTheFirstRowWhereNoneIsSelected) {
   }
 }
 
-TEST(Lists, OnlyTheLeftButtonOnARowSelects) {
+TEST_F(Lists, OnlyTheLeftButtonOnARowSelects) {
   for (const ControlKind kind : {ControlKind::kListBox, ControlKind::kReportList}) {
-    FakeSession session;
-    ControlView& added = session.Add(kind, 1, {}, 120);
-    added.columns = {{"名称", 80}};
-    added.rows = {{"a"}, {"b"}, {"c"}};
-    added.selection = 1;
-    RunWithUser(session, [&](QDialog& window) {
-      auto& view = ControlWidget<QAbstractItemView>(window, 1);
+    session = {};
+    AddList(kind).selection = 1;
+    RunAt<QAbstractItemView>(1, [&](QAbstractItemView& view) {
       QWidget* const area = view.viewport();
-      const auto row = [&](int number) {
-        return view.visualRect(view.model()->index(number, 0)).center();
-      };
+      const QPoint row = view.visualRect(view.model()->index(2, 0)).center();
       const QPoint below(10, area->height() - 3);
       ASSERT_FALSE(view.indexAt(below).isValid());
-      QTest::mouseClick(area, Qt::RightButton, {}, row(2));
-      QTest::mouseClick(area, Qt::MiddleButton, {}, row(2));
-      QTest::mouseDClick(area, Qt::RightButton, {}, row(2));
+      QTest::mouseClick(area, Qt::RightButton, {}, row);
+      QTest::mouseClick(area, Qt::MiddleButton, {}, row);
+      QTest::mouseDClick(area, Qt::RightButton, {}, row);
       QTest::mouseClick(area, Qt::LeftButton, {}, below);
       QTest::mouseDClick(area, Qt::LeftButton, {}, below);
       QTest::mousePress(area, Qt::LeftButton, {}, below);
-      QTest::mouseMove(area, row(2));
-      QTest::mouseRelease(area, Qt::LeftButton, {}, row(2));
+      QTest::mouseMove(area, row);
+      QTest::mouseRelease(area, Qt::LeftButton, {}, row);
       EXPECT_THAT(session.Take(), testing::Each(testing::StartsWith("focus")));
       const QModelIndexList selected = view.selectionModel()->selectedRows();
       ASSERT_EQ(selected.size(), 1);
@@ -112,42 +92,26 @@ TEST(Lists, OnlyTheLeftButtonOnARowSelects) {
   }
 }
 
-TEST(Lists, SelectionGoesBackWhereTheModelDoesNotFollow) {
-  FakeSession session;
-  AddList(session, ControlKind::kListBox);
-  session.handler = [&](const std::string&) { session.At(1).selection = -1; };
-  RunWithUser(session, [&](QDialog& window) {
-    auto& list = ControlWidget<QListWidget>(window, 1);
-    ClickRow(list, 2);
-    EXPECT_TRUE(list.selectedItems().isEmpty());
-  });
-}
-
-TEST(Lists, AHandlerMayEmptyTheList) {
-  FakeSession session;
-  AddList(session, ControlKind::kListBox);
+TEST_F(Lists, ShowWhatAHandlerMakesOfAPick) {
+  AddList(ControlKind::kListBox);
   session.handler = [&](const std::string& gesture) {
-    if (gesture != "pick 1 2") return;
-    session.Change(1, [](ControlView& view) {
-      view.rows.clear();
-      view.selection = -1;
-    });
+    session.At(1).selection = -1;
+    if (gesture == "pick 1 2") session.Change(1, [](ControlView& view) { view.rows.clear(); });
   };
-  RunWithUser(session, [&](QDialog& window) {
-    auto& list = ControlWidget<QListWidget>(window, 1);
+  RunAt<QListWidget>(1, [&](QListWidget& list) {
+    ClickRow(list, 1);
+    EXPECT_TRUE(list.selectedItems().isEmpty());
     ClickRow(list, 2);
     EXPECT_EQ(list.count(), 0);
-    EXPECT_THAT(session.Take(), ElementsAre("pick 1 2"));
+    EXPECT_THAT(session.Take(), ElementsAre("pick 1 1", "pick 1 2"));
   });
 }
 
-TEST(Lists, ReportListHasColumns) {
-  FakeSession session;
+TEST_F(Lists, ReportListHasColumns) {
   ControlView& view = session.Add(ControlKind::kReportList, 1, {}, 80);
   view.columns = {{"番号", 40}, {"名称", 80}};
   view.rows = {{"1", "鎌倉"}, {"2", "江ノ島"}};
-  RunWithUser(session, [&](QDialog& window) {
-    auto& tree = ControlWidget<QTreeWidget>(window, 1);
+  RunAt<QTreeWidget>(1, [&](QTreeWidget& tree) {
     EXPECT_EQ(tree.headerItem()->text(1), "名称");
     EXPECT_EQ(tree.topLevelItem(1)->text(1), "江ノ島");
     EXPECT_NEAR(double(tree.columnWidth(1)) / tree.columnWidth(0), 2, 0.1);
@@ -159,32 +123,32 @@ TEST(Lists, ReportListHasColumns) {
   });
 }
 
-TEST(Combos, PopupPicksAlsoTheSelectedRow) {
-  FakeSession session;
-  ControlView& view = AddList(session, ControlKind::kComboBox);
+class Combos : public Lists {};
+
+TEST_F(Combos, PopupPicksAlsoTheSelectedRowAndEscClosesIt) {
+  ControlView& view = AddList(ControlKind::kComboBox);
   view.selection = 1;
   view.text = "beta";
-  session.layout.focus = 1;
-  RunWithUser(session, [&](QDialog& window) {
-    auto& combo = ControlWidget<QComboBox>(window, 1);
+  RunAt<QComboBox>(1, [&](QComboBox& combo) {
     EXPECT_EQ(combo.currentText(), "beta");
     for (int row : {1, 2}) {
       combo.showPopup();
       combo.view()->setCurrentIndex(combo.model()->index(row, 0));
       QTest::keyClick(combo.view(), Qt::Key_Return);
     }
+    combo.showPopup();
+    QTest::keyClick(combo.view(), Qt::Key_Escape);
+    EXPECT_FALSE(combo.view()->isVisible());
     EXPECT_THAT(session.Take(), ElementsAre("pick 1 1", "pick 1 2"));
     EXPECT_EQ(combo.currentText(), "gamma");
   });
 }
 
-TEST(Combos, TheWheelTurnsOnlyTheBoxThatHasTheFocus) {
-  FakeSession session;
-  AddList(session, ControlKind::kComboBox).selection = 0;
+TEST_F(Combos, TheWheelTurnsOnlyTheBoxThatHasTheFocus) {
+  AddList(ControlKind::kComboBox).selection = 0;
   session.Add(ControlKind::kPushButton, 2, "次");
   session.layout.focus = 2;
-  RunWithUser(session, [&](QDialog& window) {
-    auto& combo = ControlWidget<QComboBox>(window, 1);
+  RunAt<QComboBox>(1, [&](QComboBox& combo) {
     const auto turn = [&] {
       QWheelEvent down(QPointF(5, 5), combo.mapToGlobal(QPointF(5, 5)), {}, {0, -120}, {}, {},
                        Qt::NoScrollPhase, false);
@@ -199,26 +163,10 @@ TEST(Combos, TheWheelTurnsOnlyTheBoxThatHasTheFocus) {
   });
 }
 
-TEST(Combos, EscClosesThePopupAndNotTheDialog) {
-  FakeSession session;
-  AddList(session, ControlKind::kComboBox);
-  session.layout.focus = 1;
-  RunWithUser(session, [&](QDialog& window) {
-    auto& combo = ControlWidget<QComboBox>(window, 1);
-    combo.showPopup();
-    QTest::keyClick(combo.view(), Qt::Key_Escape);
-    EXPECT_FALSE(combo.view()->isVisible());
-    EXPECT_THAT(session.Take(), ElementsAre());
-  });
-}
-
-TEST(Combos, TypingAnItemsTextPicksNothing) {
-  FakeSession session;
-  AddList(session, ControlKind::kComboBox);
+TEST_F(Combos, TypingAnItemsTextPicksNothing) {
+  AddList(ControlKind::kComboBox);
   session.Add(ControlKind::kPushButton, 2, "次");
-  session.layout.focus = 1;
-  RunWithUser(session, [&](QDialog& window) {
-    auto& combo = ControlWidget<QComboBox>(window, 1);
+  RunAt<QComboBox>(1, [&](QComboBox& combo) {
     QTest::keyClicks(&combo, "bet");
     QTest::keyClick(&combo, Qt::Key_A);
     EXPECT_EQ(session.Take().back(), "type 1 beta");
@@ -229,11 +177,9 @@ TEST(Combos, TypingAnItemsTextPicksNothing) {
   });
 }
 
-TEST(Combos, TextAndSelectionAreIndependent) {
-  FakeSession session;
-  AddList(session, ControlKind::kComboBox);
-  RunWithUser(session, [&](QDialog& window) {
-    auto& combo = ControlWidget<QComboBox>(window, 1);
+TEST_F(Combos, TextAndSelectionAreIndependent) {
+  AddList(ControlKind::kComboBox);
+  RunAt<QComboBox>(1, [&](QComboBox& combo) {
     session.Change(1, [](ControlView& view) { view.text = "ほか"; });
     EXPECT_EQ(combo.currentText(), "ほか");
     EXPECT_EQ(combo.currentIndex(), -1);
@@ -244,12 +190,9 @@ TEST(Combos, TextAndSelectionAreIndependent) {
   });
 }
 
-TEST(Combos, SimpleComboHasEditAndList) {
-  FakeSession session;
-  AddList(session, ControlKind::kSimpleComboBox);
-  session.layout.focus = 1;
-  RunWithUser(session, [&](QDialog& window) {
-    auto& frame = ControlWidget<QWidget>(window, 1);
+TEST_F(Combos, SimpleComboHasEditAndList) {
+  AddList(ControlKind::kSimpleComboBox);
+  RunAt<QWidget>(1, [&](QWidget& frame) {
     auto* const edit = frame.findChild<QLineEdit*>("edit");
     auto* const list = frame.findChild<QListWidget*>("list");
     ASSERT_TRUE(edit != nullptr && list != nullptr);

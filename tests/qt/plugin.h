@@ -2,6 +2,8 @@
 #ifndef ORRERYUI_TESTS_QT_PLUGIN_H_
 #define ORRERYUI_TESTS_QT_PLUGIN_H_
 
+#include <gtest/gtest.h>
+
 #include <QDialog>
 #include <QString>
 #include <QWidget>
@@ -29,6 +31,20 @@ Widget& ControlWidget(QWidget& window, int id) {
   if (widget == nullptr) qFatal("control %d has no widget of this class", id);
   return *widget;
 }
+
+// Tests of one dialog.
+class OnScreen : public testing::Test {
+ protected:
+  void Run(const std::function<void(QDialog& window)>& user) { RunWithUser(session, user); }
+
+  // Hands `user` the widget of a control, of the given class.
+  template <class Widget, class User>
+  void RunAt(int id, User user) {
+    Run([&](QDialog& window) { user(ControlWidget<Widget>(window, id)); });
+  }
+
+  FakeSession session;
+};
 
 }  // namespace orreryui
 

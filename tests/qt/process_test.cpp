@@ -3,7 +3,6 @@
 #include <gmock/gmock.h>
 
 #include <QApplication>
-#include <QLabel>
 #include <QTemporaryDir>
 
 #include "tests/qt/plugin.h"
@@ -101,20 +100,6 @@ TEST(Process, GlyphsAreJapaneseWhateverTheHostsLanguage) {
   const QImage japanese(pictures.filePath("ja_JP.UTF-8"));
   EXPECT_FALSE(japanese.isNull());
   EXPECT_EQ(japanese, QImage(pictures.filePath("zh_CN.UTF-8")));
-}
-
-TEST(Process, QtsOwnChoosersAreJapanese) {
-  ExpectQuiet([] {
-    SetVariables("offscreen", nullptr);
-    FrontEnd* const front_end = LoadFrontEnd();
-    QStringList labels;
-    ThenInFront([&](QWidget& front) {
-      for (const QLabel* label : front.findChildren<QLabel*>()) labels << label->text();
-      front.close();
-    });
-    front_end->ChooseColour(0);
-    return labels.filter("赤").size() == 1 && labels.filter("Red").isEmpty();
-  });
 }
 
 }  // namespace

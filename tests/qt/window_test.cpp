@@ -17,11 +17,12 @@ namespace {
 
 using testing::ElementsAre;
 
-TEST(Window, IsNamedTitledAndOfFixedSize) {
-  FakeSession session;
+class Window : public OnScreen {};
+
+TEST_F(Window, IsNamedTitledAndOfFixedSize) {
   session.layout.title = "  凡例";
   session.Add(ControlKind::kPushButton, 1, "OK");
-  RunWithUser(session, [&](QDialog& window) {
+  Run([&](QDialog& window) {
     EXPECT_EQ(window.objectName(), "700");
     EXPECT_EQ(window.windowTitle(), "  凡例");
     EXPECT_EQ(window.minimumSize(), window.maximumSize());
@@ -34,36 +35,24 @@ TEST(Window, IsNamedTitledAndOfFixedSize) {
   });
 }
 
-TEST(Window, EnterEscAndCloseBecomeGestures) {
-  FakeSession session;
-  session.Add(ControlKind::kPushButton, 1, "OK").is_default = true;
-  session.Add(ControlKind::kPushButton, 2, "他");
-  session.layout.focus = 2;
-  RunWithUser(session, [&](QDialog& window) {
-    auto& other = ControlWidget<QPushButton>(window, 2);
-    QTest::keyClick(&other, Qt::Key_Return);
-    QTest::keyClick(&other, Qt::Key_Enter);
-    QTest::keyClick(&other, Qt::Key_Escape);
-    EXPECT_THAT(session.Take(), ElementsAre("enter", "enter", "escape"));
-    EXPECT_FALSE(window.close());
-    EXPECT_TRUE(window.isVisible());
-    EXPECT_THAT(session.Take(), ElementsAre("escape"));
-  });
-}
-
-TEST(Window, TheButtonThatEnterPressesStandsOut) {
-  FakeSession session;
+TEST_F(Window, EnterEscAndCloseBecomeGesturesAndTheButtonThatEnterPressesStandsOut) {
   session.Add(ControlKind::kPushButton, 1, "OK").is_default = true;
   session.Add(ControlKind::kPushButton, 2, "他");
   session.Add(ControlKind::kEdit, 3);
   session.layout.focus = 3;
-  RunWithUser(session, [&](QDialog& window) {
+  Run([&](QDialog& window) {
     const auto& button = ControlWidget<QPushButton>(window, 1);
     auto& other = ControlWidget<QPushButton>(window, 2);
     EXPECT_TRUE(button.isDefault());
     other.setFocus();
     EXPECT_TRUE(other.isDefault());
     EXPECT_FALSE(button.isDefault());
+    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Escape}) {
+      QTest::keyClick(&other, key);
+    }
+    EXPECT_FALSE(window.close());
+    EXPECT_TRUE(window.isVisible());
+    EXPECT_THAT(session.Take(), ElementsAre("focus 2", "enter", "enter", "escape", "escape"));
     session.Change(1, [](ControlView& view) { view.text = "終"; });
     EXPECT_TRUE(other.isDefault());
     ControlWidget<QLineEdit>(window, 3).setFocus();
@@ -72,32 +61,34 @@ TEST(Window, TheButtonThatEnterPressesStandsOut) {
   });
 }
 
-TEST(Window, NothingIsShownWhereTheDialogEndsAtTheStart) {
-  FakeSession session;
+TEST_F(Window, NothingIsShownWhereTheDialogEndsAtTheStart) {
   session.on_start = [&] { session.ended = true; };
   EXPECT_TRUE(LoadFrontEnd()->RunDialog(session));
   EXPECT_EQ(session.paints, 0);
   EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
 }
 
-TEST(Window, NothingFollowsTheEnd) {
-  FakeSession session;
-  session.Add(ControlKind::kPushButton, 1, "OK");
-  session.handler = [&](const std::string& gesture) { session.ended = gesture == "click 1"; };
-  RunWithUser(session, [&](QDialog& window) {
-    QTest::mouseClick(&ControlWidget<QPushButton>(window, 1), Qt::LeftButton);
-    QTest::mouseClick(&ControlWidget<QPushButton>(window, 1), Qt::LeftButton);
-    QTest::keyClick(&window, Qt::Key_Escape);
-    EXPECT_THAT(session.Take(), ElementsAre("click 1"));
-  });
+TEST_F(Window, NothingFollowsTheEndOrAGestureThatThrows) {
+  for (const bool throws : {false, true}) {
+    session = {};
+    session.Add(ControlKind::kPushButton, 1, "OK");
+    session.handler = [&](const std::string& gesture) {
+      session.ended = gesture == "click 1";
+      if (session.ended && throws) throw std::bad_alloc();
+    };
+    RunAt<QPushButton>(1, [&](QPushButton& button) {
+      QTest::mouseClick(&button, Qt::LeftButton);
+      QTest::mouseClick(&button, Qt::LeftButton);
+      QTest::keyClick(button.window(), Qt::Key_Escape);
+      EXPECT_THAT(session.Take(), ElementsAre("click 1"));
+    });
+  }
 }
 
-TEST(Window, FocusSetByAHandlerIsShownAndNotReported) {
-  FakeSession session;
+TEST_F(Window, FocusSetByAHandlerIsShownAndNotReported) {
   session.Add(ControlKind::kEdit, 1);
   session.Add(ControlKind::kEdit, 2);
-  session.layout.focus = 1;
-  RunWithUser(session, [&](QDialog& window) {
+  Run([&](QDialog& window) {
     EXPECT_TRUE(ControlWidget<QLineEdit>(window, 1).hasFocus());
     session.layout.focus = 2;
     session.window->RefreshLayout();
@@ -107,7 +98,7 @@ TEST(Window, FocusSetByAHandlerIsShownAndNotReported) {
   });
 }
 
-TEST(Window, DialogsNestFromInsideAGesture) {
+TEST_F(Window, DialogsNestFromInsideAGesture) {
   FakeSession outer;
   FakeSession inner;
   outer.Add(ControlKind::kPushButton, 1, "開く");
@@ -128,7 +119,7 @@ TEST(Window, DialogsNestFromInsideAGesture) {
   });
 }
 
-TEST(Window, EndsWhenTheHostQuitsWhateverIsOpenAboveIt) {
+TEST_F(Window, EndsWhenTheHostQuitsWhateverIsOpenAboveIt) {
   FakeSession inner;
   inner.handler = [&](const std::string& gesture) { inner.ended = gesture == "escape"; };
   FrontEnd& front_end = *LoadFrontEnd();
@@ -147,7 +138,7 @@ TEST(Window, EndsWhenTheHostQuitsWhateverIsOpenAboveIt) {
                                              {[] { QCoreApplication::quit(); }, 0}};
   for (const auto& open : opened) {
     for (const auto& [quit, code] : ways) {
-      FakeSession session;
+      session = {};
       session.Add(ControlKind::kPushButton, 1, "開く");
       bool covered = false;
       session.handler = [&](const std::string& gesture) {
@@ -171,20 +162,7 @@ TEST(Window, EndsWhenTheHostQuitsWhateverIsOpenAboveIt) {
   }
 }
 
-TEST(Window, EndsWhenAGestureThrows) {
-  FakeSession session;
-  session.Add(ControlKind::kPushButton, 1, "OK");
-  session.handler = [&](const std::string& gesture) {
-    if (gesture == "click 1") throw std::bad_alloc();
-  };
-  RunWithUser(session, [&](QDialog& window) {
-    session.ended = false;
-    QTest::mouseClick(&ControlWidget<QPushButton>(window, 1), Qt::LeftButton);
-    EXPECT_THAT(session.Take(), ElementsAre("click 1"));
-  });
-}
-
-TEST(Window, WaitingTakesNoInputAndPaints) {
+TEST_F(Window, WaitingTakesNoInputAndPaints) {
   class Painted : public QObject {
    public:
     int times = 0;
@@ -193,11 +171,10 @@ TEST(Window, WaitingTakesNoInputAndPaints) {
       return false;
     }
   };
-  FakeSession session;
   session.Add(ControlKind::kPushButton, 1, "OK");
   session.Add(ControlKind::kEdit, 2);
   session.Add(ControlKind::kStatic, 3, "前");
-  RunWithUser(session, [&](QDialog& window) {
+  Run([&](QDialog& window) {
     Painted painted;
     ControlWidget<QLabel>(window, 3).installEventFilter(&painted);
     ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
@@ -219,14 +196,11 @@ TEST(Window, WaitingTakesNoInputAndPaints) {
   });
 }
 
-TEST(Window, OpensAtItsPlaceWhereverTheDialogBelowItIs) {
+TEST_F(Window, OpensAtItsPlaceWhereverTheDialogBelowItIs) {
   FakeSession at_pixel, at_position;
-  at_pixel.layout.placement = Placement::kAtPixel;
-  at_pixel.layout.x = 30;
-  at_pixel.layout.y = 70;
-  at_position.layout.placement = Placement::kAtPosition;
-  at_position.layout.x = 10;
-  at_position.layout.y = 20;
+  at_pixel.layout = {700, "", Placement::kAtPixel, 30, 70, 200, 150};
+  at_position.layout = {700, "", Placement::kAtPosition, 10, 20, 200, 150};
+  at_position.Add(ControlKind::kPushButton, 1, "開く");
   at_position.handler = [&](const std::string& gesture) {
     if (gesture != "click 1") return;
     FakeSession nested;
@@ -235,7 +209,6 @@ TEST(Window, OpensAtItsPlaceWhereverTheDialogBelowItIs) {
       EXPECT_EQ(window.pos(), window.parentWidget()->window()->pos());
     });
   };
-  at_position.Add(ControlKind::kPushButton, 1, "開く");
   RunWithUser(at_pixel, [](QDialog& window) { EXPECT_EQ(window.pos(), QPoint(30, 70)); });
   RunWithUser(at_position, [](QDialog& window) {
     EXPECT_GT(window.pos().x(), 10);
@@ -244,29 +217,18 @@ TEST(Window, OpensAtItsPlaceWhereverTheDialogBelowItIs) {
   });
 }
 
-TEST(Window, StaysOnTheScreenWhenItGrows) {
-  FakeSession session;
-  session.layout.placement = Placement::kAtPixel;
-  session.layout.x = 10000;
-  session.Add(ControlKind::kStatic, 1, "短", 8).place.width = 60;
-  RunWithUser(session, [&](QDialog& window) {
-    const int before = window.width();
-    session.Change(1, [](ControlView& view) { view.text = "すこし長い文字列がここに入る"; });
-    EXPECT_GT(window.width(), before);
-    EXPECT_TRUE(window.screen()->availableGeometry().contains(window.geometry()));
-  });
-}
-
-TEST(Window, StaysOnTheScreen) {
+TEST_F(Window, StaysOnTheScreenAndAlsoWhenItGrows) {
   for (const auto& [x, y] : {std::pair(100000, -100000), {INT_MAX, INT_MIN}, {INT_MIN, INT_MAX}}) {
-    FakeSession session;
-    session.Add(ControlKind::kPushButton, 1, "OK");
-    session.layout.placement = Placement::kAtPixel;
-    session.layout.x = x;
-    session.layout.y = y;
-    RunWithUser(session, [&](QDialog& window) {
-      EXPECT_TRUE(window.screen()->availableGeometry().contains(window.geometry()))
-          << session.layout.x;
+    session = {};
+    session.Add(ControlKind::kStatic, 1, "短", 8).place.width = 60;
+    session.layout = {700, "", Placement::kAtPixel, x, y, 70, 20};
+    Run([&, x = x](QDialog& window) {
+      const QRect screen = window.screen()->availableGeometry();
+      EXPECT_TRUE(screen.contains(window.geometry())) << x;
+      const int before = window.width();
+      session.Change(1, [](ControlView& view) { view.text = "すこし長い文字列がここに入る"; });
+      EXPECT_GT(window.width(), before);
+      EXPECT_TRUE(screen.contains(window.geometry())) << x;
     });
   }
 }
