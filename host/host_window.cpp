@@ -94,6 +94,7 @@ const Operation& HostWindow::Chosen() const {
 
 void HostWindow::ShowChosen() {
   const Operation& operation = Chosen();
+  if (Takes(operation, "LIST")) kept_["LIST"] = data_.AlbumPoints();
   purpose_->setText(QString::fromStdString(operation.purpose));
   while (arguments_->rowCount() > 0) arguments_->removeRow(0);
   editors_.clear();

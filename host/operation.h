@@ -17,6 +17,9 @@ namespace orreryui::host {
 // In the start text of an argument: the folder of the sample data, without a separator at its end.
 inline constexpr char kDataFolder[] = "{data}";
 
+// In the same: the points of all albums of the sample data, as a list of points is passed in.
+inline constexpr char kAlbumPoints[] = "{points}";
+
 struct Argument {
   std::string name;
   std::string meaning;

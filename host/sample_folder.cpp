@@ -31,6 +31,18 @@ bool CopyTree(const QDir& from, const QDir& to) {
   return copied;
 }
 
+// The lines of an album but its comments and its memo, a bar behind each.
+std::string PointsOf(const QString& album) {
+  QFile file(album);
+  std::string points;
+  if (!file.open(QIODevice::ReadOnly)) return points;
+  for (const QByteArray& line : file.readAll().replace('\r', "").split('\n')) {
+    if (line.isEmpty() || line[0] == ';' || line[0] == 'M') continue;
+    points += ToUtf8(line.toStdString()) + '|';
+  }
+  return points;
+}
+
 }  // namespace
 
 SampleFolder::SampleFolder() {
@@ -38,8 +50,21 @@ SampleFolder::SampleFolder() {
   complete_ = folder_.isValid() && CopyTree(original, QDir(folder_.path()));
 }
 
+std::string SampleFolder::AlbumPoints() const {
+  const QDir albums(folder_.filePath("album"));
+  std::string points;
+  for (const QString& name : albums.entryList({"*.alb"}, QDir::Files, QDir::Name)) {
+    points += PointsOf(albums.filePath(name));
+  }
+  return points + "999|";
+}
+
 std::string SampleFolder::Filled(const std::string& text) const {
-  return QString::fromStdString(text).replace(kDataFolder, folder_.path()).toStdString();
+  QString filled = QString::fromStdString(text).replace(kDataFolder, folder_.path());
+  if (filled.contains(kAlbumPoints)) {
+    filled.replace(kAlbumPoints, QString::fromStdString(AlbumPoints()));
+  }
+  return filled.toStdString();
 }
 
 Values SampleFolder::StartValues(const Operation& operation) const {

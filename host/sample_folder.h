@@ -18,7 +18,12 @@ class SampleFolder {
   // Whether the copy could be made.
   bool IsComplete() const { return complete_; }
 
-  // The text with the copy's folder in the place of kDataFolder.
+  // The data lines of all albums as they stand now, in the order of the albums' names: a bar behind
+  // each, and behind the last one the end of the list.
+  std::string AlbumPoints() const;
+
+  // The text with the copy's folder in the place of kDataFolder, and the points in that of
+  // kAlbumPoints.
   std::string Filled(const std::string& text) const;
 
   // What the operation is passed at first.

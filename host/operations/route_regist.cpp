@@ -14,13 +14,6 @@ namespace {
 constexpr int kDialog = kTemplate.number;
 constexpr int kRegistDialog = route_regist::kTemplate.number;
 
-// A walk that was put together from the points of the sample album.
-const std::string kWalk =
-    "鶴岡八幡宮 35.3261 139.5565 舞殿と大石段 " + kAlbumFolder + "hachimangu.jpg " + kAlbumFolder +
-    "hachimangu.txt|高徳院 35.3168 139.5357 鎌倉大仏 " + kAlbumFolder + "daibutsu.jpg " +
-    kAlbumFolder + "daibutsu.txt|長谷寺 35.3125 139.5331 観音堂 " + kAlbumFolder +
-    "hase.txt|由比ヶ浜 35.3083 139.5432 海岸 " + kAlbumFolder + "yuigahama.jpg|999|";
-
 }  // namespace
 
 Operation RouteRegist() {
@@ -43,7 +36,7 @@ Operation RouteRegist() {
       {"CENTRE-LONGITUDE", "of an area", kStartLongitude},
       {"DISPLAY", "\"AUTO\" or \"MANUAL\", for LIST", "AUTO"},
       {"FILE-DISPLAY", "\"AUTO\" or \"MANUAL\", for a file of points", "AUTO"},
-      {"LIST", "a data line for each point, a bar behind each, and 999|", kWalk},
+      {"LIST", "a data line for each point, a bar behind each, and 999|", kAlbumPoints},
   };
   operation.fields = {{"display", "of the points", "DISPLAY"}};
   operation.result_unless_ok = "cancel";

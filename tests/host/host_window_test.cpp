@@ -11,6 +11,7 @@
 #include "templates/legend.h"
 #include "templates/map_type.h"
 #include "templates/palette.h"
+#include "templates/route_select.h"
 
 namespace orreryui::host {
 namespace {
@@ -57,6 +58,19 @@ TEST_F(HostWindowTest, PassesInWhatTheLastCallHandedBack) {
   CallAndPlay({{data_source::kTemplate.number, [](Hand& hand) { hand.Click(IDOK); }}});
   EXPECT_EQ(FieldValue(0), "1");
   EXPECT_EQ(FieldValue(1), "off");
+
+  Choose("OnRouteInformation");
+  const auto pick_map = [](Hand& hand) {
+    hand.PickFromList(route_select::kMaps, 0);
+    hand.Click(IDOK);
+  };
+  CallAndPlay({{route_select::kTemplate.number, pick_map}});
+  const std::string member_file = FieldValue(2);
+  Choose("OnRouteRegistModule");
+  EXPECT_NE(member_file, "");
+  EXPECT_EQ(Editor("LIST-MODE").text().toStdString(), member_file);
+  EXPECT_TRUE(Editor("LIST").text().startsWith("高徳院 35.3168 139.5357 鎌倉大仏 "));
+  EXPECT_TRUE(Editor("LIST").text().endsWith("|999|"));
 }
 
 // The colour of the strip at a level, from its column in the middle of the level.
