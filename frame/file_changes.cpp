@@ -9,8 +9,15 @@ std::string JournalPath(const char* list_path) {
   return NameBeside(NativePath(list_path), "changes");
 }
 
-// Where a file of that spelling is going to stand.
-std::string NewPath(const char* path) { return FolderOf(NativePath(path)) + NameToCreate(path); }
+// Whether two names of folders, as FolderOf gives them, mean one folder.
+bool IsOneFolder(const std::string& one, const std::string& other) {
+  const auto info = [](const std::string& folder) {
+    return CurrentFileSystem().Stat(folder.empty() ? "." : folder);
+  };
+  if (one == other) return true;
+  const auto first = info(one), second = info(other);
+  return first && second && first->identity == second->identity;
+}
 
 bool IsName(const std::string& name) {
   return !name.empty() && name != "." && name != ".." && name.find('\n') == std::string::npos;
@@ -23,9 +30,10 @@ FileChanges::FileChanges(const char* list_path)
       journal_path_(JournalPath(list_path)),
       new_list_path_(NameBeside(list_path_, "list")),
       journal_(list_path_.empty() ? nullptr : OpenLocked(journal_path_, OpenMode::kOpenOrCreate)) {
+  const bool takes_none = !journal_ && CurrentFileSystem().IsMissing(journal_path_);
   clean_ = journal_ && Recover();
-  if (clean_) list_ = OpenLocked(list_path_, OpenMode::kReadWrite);
-  possible_ = clean_ && (list_ || IsMissing(list_path));
+  if (clean_ || takes_none) list_ = OpenLocked(list_path_, OpenMode::kReadWrite);
+  possible_ = list_ || (clean_ && IsMissing(list_path));
 }
 
 FileChanges::~FileChanges() {
@@ -50,6 +58,12 @@ bool FileChanges::Clear(const FileSteps& steps, bool done, std::size_t done_step
          DropAdded(steps) && Drop(new_list_path_);
 }
 
+// The path in the spelling of the list's folder, if that is the one that it leads to.
+std::string FileChanges::Beside(const std::string& native) const {
+  const std::string folder = FolderOf(journal_path_);
+  return IsOneFolder(FolderOf(native), folder) ? folder + NameOf(native) : native;
+}
+
 void FileChanges::Add(const FileStep& step) {
   for (const std::string& path : {step.from, step.to}) {
     possible_ = possible_ && FolderOf(path) == FolderOf(journal_path_) && IsName(NameOf(path));
@@ -62,9 +76,14 @@ bool FileChanges::CanMove(const std::string& native) const {
   return info && info->kind == FileInfo::Kind::kFile && !IsMoved(native, steps_);
 }
 
+// Where a file of that spelling is going to stand.
+std::string FileChanges::NewPath(const char* path) const {
+  return Beside(FolderOf(NativePath(path)) + NameToCreate(path));
+}
+
 // Whether nothing has the name `native`, or that of `path` in another case, after the steps so far.
 bool FileChanges::IsFree(const char* path, const std::string& native) const {
-  return !WillExist(native, steps_) && !WillExist(NativePath(path), steps_);
+  return !WillExist(native, steps_) && !WillExist(Beside(NativePath(path)), steps_);
 }
 
 void FileChanges::Create(const char* path, std::string_view content) {
@@ -75,14 +94,14 @@ void FileChanges::Create(const char* path, std::string_view content) {
 }
 
 void FileChanges::Rename(const char* from, const char* to) {
-  const std::string old_path = NativePath(from);
+  const std::string old_path = Beside(NativePath(from));
   const std::string new_path = NewPath(to);
   possible_ = possible_ && CanMove(old_path) && IsFree(to, new_path);
   Add(RenameStep(old_path, new_path));
 }
 
 void FileChanges::Remove(const char* path) {
-  const std::string native = NativePath(path);
+  const std::string native = Beside(NativePath(path));
   possible_ = possible_ && CanMove(native);
   Add(RemoveStep(native));
 }
@@ -90,6 +109,7 @@ void FileChanges::Remove(const char* path) {
 bool FileChanges::Commit(std::string_view list) {
   if (!possible_) return false;
   possible_ = false;
+  if (!journal_) return steps_.empty() && OverwriteOrRestore(*list_, list);
   const bool done = Prepare(list) && DoSteps() && ReplaceList(list);
   if (done) CurrentFileSystem().SyncFolderOf(list_path_);
   clean_ = Clear(steps_, done, done_);

@@ -11,7 +11,8 @@
 // that is cut off before it, by a fault or the end of the process, is taken back, and what is left
 // of one behind it is cleared up: at once, else at the next opening. Only a list that has several
 // names, or whose owner can't be kept, is overwritten where it lies, and the end of the process at
-// that moment may tear it.
+// that moment may tear it. So is a list in a folder that takes no new file, as long as no other
+// file is to change with it.
 #ifndef ORRERYUI_FRAME_FILE_CHANGES_H_
 #define ORRERYUI_FRAME_FILE_CHANGES_H_
 
@@ -53,6 +54,8 @@ class FileChanges {
 
   bool Recover();
   bool Clear(const FileSteps& steps, bool done, std::size_t done_steps);
+  std::string Beside(const std::string& native) const;
+  std::string NewPath(const char* path) const;
   void Add(const FileStep& step);
   bool CanMove(const std::string& native) const;
   bool IsFree(const char* path, const std::string& native) const;

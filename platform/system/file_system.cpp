@@ -236,6 +236,7 @@ class PosixFileSystem final : public FileSystem {
     info.size = static_cast<std::uint64_t>(status.st_size);
     info.modified = status.st_mtime;
     info.executable = info.kind == FileInfo::Kind::kFile && ::access(path.c_str(), X_OK) == 0;
+    info.identity = {status.st_dev, status.st_ino};
     return info;
   }
 

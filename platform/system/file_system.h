@@ -81,6 +81,8 @@ struct FileInfo {
   std::uint64_t size = 0;
   std::time_t modified = 0;  // seconds since 1970, UTC
   bool executable = false;   // a file that this process may start
+  // What tells it from everything else on this machine, whatever the path that leads to it.
+  std::pair<std::uint64_t, std::uint64_t> identity;
 };
 
 class FileSystem {

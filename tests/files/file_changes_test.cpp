@@ -118,7 +118,8 @@ TEST_F(FileChangesTest, WhatCannotBeDoneRefusesTheWholeChange) {
       [&](FileChanges& c) { c.Create(At("F1"), "x"); },
       [&](FileChanges& c) { c.Create(At("folder/.."), "x"); },
       [&](FileChanges& c) { c.Create(At("a\nb"), "x"); },
-      [&](FileChanges& c) { c.Remove(At("folder/../f1")); },
+      [&](FileChanges& c) { c.Remove(At("folder/f1")); },
+      [&](FileChanges& c) { c.Remove(At("folder/../f1")), c.Remove(At("f1")); },
   };
   folder_.Lay(before_);
   std::filesystem::create_directory(folder_.Path() / "folder");
@@ -130,6 +131,21 @@ TEST_F(FileChangesTest, WhatCannotBeDoneRefusesTheWholeChange) {
   }
   std::filesystem::remove(folder_.Path() / "folder");
   EXPECT_EQ(folder_.Content(), before_);
+}
+
+// However their folder is spelled, the files stand beside the list.
+TEST_F(FileChangesTest, KnowsItsFolderUnderOtherNames) {
+  TestFolder other;
+  create_directory_symlink(folder_.Path(), other.Path() / "link");
+  for (const std::string& folder : {folder_.Path().string() + "/./", other.PathOf("link/")}) {
+    folder_.Lay(before_);
+    const auto change = [&](FileChanges&& changes) {
+      for (const char* name : {"f1", "f2", "f3", "f4"}) changes.Remove((folder + name).c_str());
+      return changes.Commit("x");
+    };
+    EXPECT_TRUE(change(FileChanges(At(kList)))) << folder;
+    EXPECT_EQ(folder_.Content(), (Files{{kList, "x"}}));
+  }
 }
 
 TEST_F(FileChangesTest, FreesNamesInAnyCase) {

@@ -10,6 +10,7 @@
 #include <string>
 #include <vector>
 
+#include "frame/file_changes.h"
 #include "frame/line_file.h"
 #include "tests/support/each_fault.h"
 #include "tests/support/test_folder.h"
@@ -254,7 +255,11 @@ TEST_F(LineWriterTest, WhatMayOnlyBeReadStaysAsItIs) {
                      RewriteInPlace(At("rewrite"), "new") || CreateFile(At("create"), "new") ||
                      ReplaceThroughNewFile(At("replace"), At("new"), "new");
     // There can be no second file.
-    if (!RewriteInPlace(At("writable"), "new")) return 4;
+    if (!RewriteInPlace(At("writable"), "newer")) return 4;
+    if (!FileChanges(At("writable")).Commit("new")) return 5;
+    FileChanges several(At("writable"));
+    several.Remove(At("append"));
+    if (several.Commit("x")) return 6;
     return any ? 2 : LineReader(At("append"), 99).IsOpen() ? 0 : 3;
   });
   EXPECT_EQ(child.Status(), 0);
