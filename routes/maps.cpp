@@ -1,5 +1,6 @@
 #include "routes/maps.h"
 
+#include <algorithm>
 #include <optional>
 
 #include "frame/entries.h"
@@ -21,6 +22,7 @@ std::optional<std::size_t> Find(const MasterList& shown, std::size_t index, Mast
 bool RegisterMap(const CString& folder, MapKind kind, const CString& name,
                  const std::vector<CString>& lines) {
   const CString list_path = MasterListPath(folder, kind);
+  if (!std::all_of(lines.begin(), lines.end(), IsMemberLine)) return false;
   FileChanges changes(list_path);
   const CString member_path = folder + MakeMemberName(folder, kind);
   WriteMemberFile(changes, member_path, lines);

@@ -12,7 +12,8 @@
 
 namespace orreryui {
 
-// Stores a new map of these lines (MemberLines). False also for a name that the list can't hold.
+// Stores a new map of these lines (MemberLines). False also for a name that the list can't hold,
+// and for a line that the member file can't.
 bool RegisterMap(const CString& folder, MapKind kind, const CString& name,
                  const std::vector<CString>& lines);
 

@@ -3,9 +3,11 @@
 #include <ctime>
 #include <string>
 
+#include "frame/entries.h"
 #include "frame/split.h"
 #include "platform/system/clock.h"
 #include "platform/system/path.h"
+#include "points/data_line.h"
 #include "points/packed_point.h"
 
 namespace orreryui {
@@ -50,6 +52,10 @@ std::vector<CString> MemberLines(const std::vector<CString>& points) {
   lines.reserve(points.size());
   for (const CString& packed : points) lines.push_back(MemberLine(packed));
   return lines;
+}
+
+bool IsMemberLine(const CString& line) {
+  return line.GetLength() < static_cast<int>(kDataLineLimit) && FirstLine(line) == line;
 }
 
 void WriteMemberFile(FileChanges& changes, const CString& path, const std::vector<CString>& lines) {

@@ -22,6 +22,9 @@ CString MakeMemberName(const CString& folder, MapKind kind);
 // longitude, with a $ between them. PackPointLine understands both.
 std::vector<CString> MemberLines(const std::vector<CString>& points);
 
+// Whether a reader gets the line back: as one line, and whole.
+bool IsMemberLine(const CString& line);
+
 // Adds to a change that the file, which mustn't exist, comes with these lines.
 void WriteMemberFile(FileChanges& changes, const CString& path, const std::vector<CString>& lines);
 

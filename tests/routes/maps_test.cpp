@@ -137,7 +137,7 @@ TEST_F(MapsTest, NamesThatTheListCannotHoldAreRefused) {
   } cases[] = {
       {"", true},      {"a@b", true},    {" ;", true},           {"a|$# ", true},
       {longest, true}, {";a", false},    {longest + "n", false}, {std::string(300, 'n'), false},
-      {"a\nb", false}, {"x\x81", false}, {"x\x81\\", true},
+      {"a\nb", false}, {"x\x81", false}, {"x\x81\\", true},      {"ァポ"_sj, true},
   };
   for (const auto& [name, fits] : cases) {
     folder.Lay({});
@@ -211,11 +211,11 @@ TEST_F(MapsTest, ARenameKeepsOrderAndFileAndADeletionTakesBoth) {
     return ";c\r\n" + first + Lines(2, 511) + "\r\n" + Entry("n512", "b") + rest;
   };
   folder.Lay({{kList, many(Entry("n1", "a"))}, {"a", "1"}, {"b", "2"}});
-  EXPECT_TRUE(Rename(0, "ー@"));
-  const std::string renamed = Entry("ー@", "a") + Lines(2, 511) + Entry("n512", "b") + rest;
+  EXPECT_TRUE(Rename(0, "ァポ"_sj));
+  const std::string renamed = Entry("ァポ"_sj, "a") + Lines(2, 511) + Entry("n512", "b") + rest;
   EXPECT_EQ(folder.Content(), (Files{{kList, renamed}, {"a", "1"}, {"b", "2"}}));
   EXPECT_TRUE(Delete(511));
-  const std::string left = Entry("ー@", "a") + Lines(2, 511) + rest;
+  const std::string left = Entry("ァポ"_sj, "a") + Lines(2, 511) + rest;
   EXPECT_EQ(folder.Content(), (Files{{kList, left}, {"a", "1"}}));
   EXPECT_EQ(Read().entries.size(), 512u);
 
@@ -260,8 +260,15 @@ TEST_F(MapsTest, AMapWhoseFileCannotGoStays) {
   EXPECT_EQ(folder.Read("inner/member"), "1");
 }
 
-TEST_F(MapsTest, FoldersThatTakeNoFileTakeNoMap) {
+TEST_F(MapsTest, AMapThatCannotBeReadBackIsNotStored) {
+  const CString longest = std::string(199, 'x').c_str();
+  for (const CString& line : {longest + "x", CString("a\nb"), CString("\n")}) {
+    EXPECT_FALSE(RegisterMap(folder.Argument(), MapKind::kRoute, "x", {longest, line}));
+  }
+  EXPECT_EQ(folder.Content(), Files());
+  EXPECT_TRUE(RegisterMap(folder.Argument(), MapKind::kRoute, "x", {longest, ""}));
   EXPECT_FALSE(RegisterMap(folder.Argument() + "none/", MapKind::kRoute, "x", {}));
+  folder.Lay({});
   std::filesystem::create_directory(folder.PathOf(kList));
   EXPECT_FALSE(Register("x"));
   EXPECT_TRUE(std::filesystem::is_directory(folder.PathOf(kList)));
