@@ -24,11 +24,11 @@ CString CDlgRouteUpdate::ListPath() const {
   return MasterListPath(m_strFolder, MapKindOf(m_nKind));
 }
 
-// Where the list can't be read, what is known of it stays.
+// Where the list can't be read, the rows that are known stay.
 void CDlgRouteUpdate::LoadEntries() {
   if (m_nKind != 0) SetWindowText("      エリアマップの更新"_sj);
   const MasterList list = ReadMasterList(ListPath());
-  if (list.complete) m_aEntries = list;
+  if (list.complete || m_aEntries.entries.empty()) m_aEntries = list;
   ResetContent(kMaps);
   for (const CString& entry : m_aEntries.entries) AddString(kMaps, MasterEntryLabel(entry));
   m_nCount = GetCount(kMaps);

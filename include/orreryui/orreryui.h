@@ -159,14 +159,16 @@ ORRERYUI_EXPORT CString OnDataSourceSet(int selected, CString common_area, CStri
 
 // Lets the user choose one of the stored route maps or area maps, look at its points, edit its
 // member file in an external text editor, rename or delete maps, and choose how they are to be
-// displayed. What the user renames or deletes is on the disk at once, and a deletion removes the
-// member file, which must lie in the folder of the maps. 512 maps are shown.
+// displayed. What the user renames or deletes is on the disk at once, without the comments and
+// empty lines that the list held, and a deletion removes the member file, which must lie in the
+// folder of the maps. A name that a line of 199 bytes can't hold together with the path isn't
+// taken, nor is one that begins with a semicolon. 512 maps are shown, and 99 points of each. An
+// entry without a name shows as its path.
 //
 //   kind     0 for the route maps, listed in "RoutMstr.dat" in `folder`; any other number for the
 //            area maps, listed in "AreaMstr.dat"
-//   display  "AUTO" or "MANUAL": the display chosen so far; comes back unchanged if the user
-//   chooses
-//            none
+//   display  "AUTO" or "MANUAL": the display chosen so far, which comes back unchanged if the user
+//            chooses none
 //   editor   the command that starts the editor; a blank and the path of the member file go behind
 //            it. Nothing is started if all has more than 299 bytes.
 //   folder   the folder of the maps, with its separator
@@ -182,7 +184,7 @@ ORRERYUI_EXPORT CString OnRouteInformation(int kind, CString display, CString ed
 // a member file of its own in `folder`, and an entry in the master list there, "RoutMstr.dat" for
 // routes and "AreaMstr.dat" for areas. No other map is changed, and a map that was stored stays
 // when the user gives up. A name that a line of 199 bytes can't hold together with the path isn't
-// taken, nor is one that begins with a semicolon.
+// taken, nor is one that begins with a semicolon, nor a list with a point whose line is longer.
 //
 //   shape, size          of an area: 0 for a circle, any other number for a square; its diameter
 //                        or side in km

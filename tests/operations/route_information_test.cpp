@@ -4,6 +4,7 @@
 #include "frame/file_changes.h"
 #include "tests/support/each_fault.h"
 #include "tests/support/play.h"
+#include "tests/support/stopped_clock.h"
 
 namespace orreryui {
 namespace {
@@ -64,6 +65,7 @@ TEST_F(RouteInformationTest, ALostListShowsNoCountAndTheDisplayComesBackAllTheSa
     visit.Click(1091).OpensDialog(156).ShowsRows(1078, {}).Shows(1077, "0件").Type(1080, "x");
     visit.Click(1081).Click(1079).Escape().Click(1087).Click(1);
     EXPECT_EQ(Call(visit, 0, "other"), "-1|||AUTO");
+    EXPECT_EQ(std::filesystem::exists(folder.PathOf(kRoutes)), is_folder);
   }
   ScriptFrontEnd unchanged, escape;
   unchanged.OpensDialog(157).Click(1);
@@ -80,7 +82,7 @@ TEST_F(RouteInformationTest, AMapShowsItsPointsAndAPointItsFields) {
        {"many", Lines(100)},
        {"nil", ""}});
   // What the editor adds is shown when the map is picked anew.
-  const std::string editor = folder.WriteProgram("editor", "echo 'c 1 2 j f' >> \"$1\"");
+  const std::string editor = folder.WriteProgram("editor", "echo 'c 1 2 j f' >> \"${1-$0.trace}\"");
   ScriptFrontEnd visit;
   visit.OpensDialog(157).ShowsRows(1089, {"一|", "no at", "empty", "none", "many", "nil"});
   visit.Shows(1092, "計=6").Pick(1089, 0).Shows(1092, "1/6").Shows(131, "4件");
@@ -97,6 +99,7 @@ TEST_F(RouteInformationTest, AMapShowsItsPointsAndAPointItsFields) {
   visit.Pick(1089, 5).Click(1090).ShowsRows(1086, {}).Pick(1089, 5).ShowsRows(1086, {"c#j"});
   visit.Pick(1089, 0).Click(1088).Click(1);
   EXPECT_EQ(Call(visit, 0, "AUTO", editor), "0|一||" + folder.PathOf("1") + "|MANUAL");
+  EXPECT_EQ(folder.Read("editor.trace"), std::nullopt) << "started without a path";
   const struct {
     int row;
     std::string result;
@@ -130,6 +133,32 @@ TEST_F(RouteInformationTest, ARenameKeepsTheSelectionAndADeletionClearsIt) {
   EXPECT_EQ(Call(visit), "1|y|" + folder.PathOf("2") + "|AUTO");
   EXPECT_EQ(folder.Content(),
             (Files{{kRoutes, Entry("x", "1") + Entry("w", "none")}, {"1", Lines(1)}}));
+}
+
+TEST_F(RouteInformationTest, AListBecomesAMapThatIsFoundEditedRenamedAndDeleted) {
+  StoppedClock clock;
+  const ScopedClock time(clock);
+  const TestFolder tools;
+  const std::string editor = tools.WriteProgram("editor", "echo 'c 1 2 k f.txt' >> \"$1\"");
+  const Files before = {{kRoutes, Entry("other", "o")}, {"o", Lines(1)}};
+  folder.Lay(before);
+  ScriptFrontEnd registration;
+  registration.OpensDialog(149).Click(1062).OpensDialog(153).Type(1065, "谷戸").Enter().Click(103);
+  Play(registration, [&] {
+    return OnRouteRegistModule(0, 0, folder.Argument(), "", "", "RouteMap", "", "", "", "", "", "",
+                               "AUTO", "", "a 1 2 i f.txt|b 1 2 j f.txt|999|");
+  });
+  ScriptFrontEnd visit;
+  visit.OpensDialog(157).ShowsRows(1089, {"other", "谷戸"}).Pick(1089, 1);
+  visit.ShowsRows(1086, {"a#i", "b#j"}).Click(1090).Pick(1089, 1);
+  visit.ShowsRows(1086, {"a#i", "b#j", "c#k"}).Click(1091).OpensDialog(156).Pick(1078, 1);
+  visit.Type(1080, "谷戸の道").Click(1081).Click(1).Pick(1089, 1).Click(1);
+  EXPECT_EQ(Call(visit, 0, "AUTO", editor), "1|谷戸の道|" + folder.PathOf("G04C2513.5R") + "|AUTO");
+  ScriptFrontEnd deletion;
+  deletion.OpensDialog(157).Click(1091).OpensDialog(156).Pick(1078, 1).Click(1079).Click(1);
+  deletion.ShowsRows(1089, {"other"}).Escape();
+  EXPECT_EQ(Call(deletion), "");
+  EXPECT_EQ(folder.Content(), before);
 }
 
 // While calls of the file system fail, each click has no effect at all or the whole of it, on the

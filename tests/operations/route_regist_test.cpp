@@ -125,8 +125,8 @@ TEST_F(RouteRegistTest, ARowShowsItsFields) {
 
 TEST_F(RouteRegistTest, AListEndsAtItsEndMarkerItsLastBarOrAHundredPoints) {
   const std::pair<std::string, int> cases[] = {
-      {"999|", 0},        {"999", 0},         {Points(2, ""), 2},         {Points(2, "x 1 2"), 2},
-      {Points(100), 100}, {Points(101), 100}, {Points(1, "9990|999|"), 2}};
+      {"999|", 0},      {"999", 0},         {Points(2, ""), 2}, {Points(2, "x 1 2"), 2},
+      {Points(99), 99}, {Points(100), 100}, {Points(101), 100}, {Points(1, "9990|999|"), 2}};
   for (const auto& [list, count] : cases) {
     const std::string text = std::to_string(count);
     ScriptFrontEnd visit;
@@ -137,8 +137,10 @@ TEST_F(RouteRegistTest, AListEndsAtItsEndMarkerItsLastBarOrAHundredPoints) {
     visit.Shows(131, text + "件").Click(103);
     folder.Lay({});
     EXPECT_EQ(Call(visit, {list}), "AUTO");
-    const std::string member = folder.Read(kMember).value_or("none");
-    EXPECT_EQ(std::count(member.begin(), member.end(), '\n'), count);
+    const auto member = folder.Read(kMember);
+    ASSERT_TRUE(member);
+    EXPECT_EQ(std::count(member->begin(), member->end(), '\n'), count);
+    EXPECT_EQ(folder.Read("RoutMstr.dat"), Entry((count ? "p1(計" : "(計") + text + "地点)"));
   }
 }
 
