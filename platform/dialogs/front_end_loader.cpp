@@ -7,10 +7,10 @@
 #include <fstream>
 #include <utility>
 
+#include "platform/system/library.h"
+
 namespace orreryui {
 namespace {
-
-constexpr char kPlugIn[] = "orreryui/liborreryui-qt.so";
 
 ScopedFrontEnd* replacement = nullptr;
 FrontEndFunction* plug_in = nullptr;  // once it is loaded
@@ -38,21 +38,21 @@ std::string OwnMappedFile() {
   return "";
 }
 
-FrontEndFunction* LoadFunction(const std::string& path) {
-  void* const module = dlopen(path.c_str(), RTLD_NOW | RTLD_LOCAL | RTLD_NODELETE);
-  return module ? reinterpret_cast<FrontEndFunction*>(dlsym(module, kFrontEndSymbol)) : nullptr;
+FrontEndFunction* LoadPlugIn(const std::string& path) {
+  return reinterpret_cast<FrontEndFunction*>(LoadFunction(path, kFrontEndSymbol));
 }
 
 // A path that isn't a full one would lead to whatever lies in the working directory.
 FrontEndFunction* LoadPlugInBeside(const std::string& file) {
   if (file.empty() || file.front() != '/') return nullptr;
-  return LoadFunction(file.substr(0, file.rfind('/') + 1) + kPlugIn);
+  const std::string folder = file.substr(0, file.rfind('/') + 1) + "orreryui/";
+  return LoadPlugIn(folder + LibraryFileName("orreryui-qt"));
 }
 
 }  // namespace
 
 FrontEnd* LoadFrontEnd(const std::string& path) {
-  FrontEndFunction* const function = LoadFunction(path);
+  FrontEndFunction* const function = LoadPlugIn(path);
   return function ? function(kFrontEndVersion) : nullptr;
 }
 
