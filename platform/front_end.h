@@ -230,6 +230,7 @@ struct FileChooserRequest {
   std::string default_extension;  // without the dot; for a name that has none and isn't there
   bool must_exist = false;
   std::vector<FileFilter> filters;
+  bool preview_pictures = false;  // the chooser shows the picture in the file that is selected
 
   // Which characters of a path make it one that can't be used; a file with such a path isn't to be
   // chosen. Where this is null, any may be.
@@ -266,7 +267,7 @@ class FrontEnd {
 // with C linkage. The plug-in owns the object and keeps it until the process ends. Null if it was
 // built for another version of this header or can't show a window in this process. It may be
 // called again after it returned null.
-inline constexpr int kFrontEndVersion = 2;
+inline constexpr int kFrontEndVersion = 3;
 inline constexpr char kFrontEndSymbol[] = "orreryui_front_end";
 using FrontEndFunction = FrontEnd*(int version);
 

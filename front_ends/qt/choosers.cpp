@@ -12,6 +12,7 @@
 
 #include "front_ends/qt/chooser_panel.h"
 #include "front_ends/qt/file_columns.h"
+#include "front_ends/qt/picture_preview.h"
 #include "front_ends/qt/refusal.h"
 #include "front_ends/qt/swatch_button.h"
 #include "front_ends/qt/widget_text.h"
@@ -152,6 +153,7 @@ std::optional<std::string> AskFile(QWidget* owner, const FileChooserRequest& req
   dialog.setIconProvider(&kinds);
   FitFileColumns(dialog);
   StartAt(dialog, FromUtf8(request.start_name));
+  if (request.preview_pictures) AddPicturePreview(dialog);
   dialog.AddPanel();
   if (request.panel != nullptr && request.panel->Ended()) return std::nullopt;
   if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return std::nullopt;

@@ -403,6 +403,7 @@ TEST_F(FitFileChooser, IsJapaneseAndHasRoomForItsTexts) {
   QDir(folder_.path()).mkdir("写真");
   Make("とても長い名前の図がもう一つここにある.図");
   request_.filters = {{"図", {"*"}}};
+  request_.preview_pictures = true;
   for (int time : {1, 2}) {
     SCOPED_TRACE(time);
     ThenInFront([](QWidget& front) {
