@@ -6,17 +6,18 @@
 
 namespace orreryui {
 
-// Beeps and lets the user choose a file that exists. The name field starts with `start_name`, and a
-// name that has no extension and isn't there gets `default_extension`. `filter` is what the user
-// can narrow the list to beside all files: a label, a vertical bar and a pattern, such as
-// "text (*.txt)|*.txt". The chooser starts in the folder of the file `current`, which may be empty.
-// All are in code page 932.
+// Beeps and lets the user choose a file that exists. The chooser starts in the folder of the file
+// `current`, which may be empty, and its name field with `start_name`, or where that is empty with
+// the name of `current`. A name that has no extension and isn't there gets `default_extension`.
+// `filter` is what the user can narrow the list to beside all files: a label, a vertical bar and
+// patterns with semicolons between them, such as "text (*.txt)|*.txt". All are in code page 932.
+// With `preview_pictures` the chooser shows the picture in the file that is selected.
 //
 // Returns the full path in lower case, or the empty string if the user gave up. A file whose path
 // code page 932 can't tell can't be chosen; where a front end lets it through, it beeps once more
 // and counts as given up.
 CString ChooseOpenFile(const char* default_extension, const char* start_name, const char* filter,
-                       const char* current);
+                       const char* current, bool preview_pictures = false);
 
 }  // namespace orreryui
 
