@@ -2,9 +2,21 @@
 
 #include "operations/run_operation.h"
 #include "presentation/memo_dialog.h"
+#include "presentation/menu_file_dialog.h"
 #include "presentation/text_view_dialog.h"
 
 namespace orreryui {
+
+int OnDlgMenuBarFileUpdate(CString folder, CString editor, int kind) {
+  return RunOperation(-1, [&] {
+    if (kind < kTextMenus || kind > kPictureMap) return -1;
+    CDlgMenuFile dialog;
+    dialog.m_strFolder = folder;
+    dialog.m_strEditor = editor;
+    dialog.m_nKind = kind;
+    return dialog.DoModal() == IDOK ? dialog.m_nResult : -1;
+  });
+}
 
 void OnTextDisplayDaialog(CString file, CString title1, CString title2) {
   RunOperation([&] {

@@ -210,6 +210,22 @@ ORRERYUI_EXPORT CString OnRouteRegistModule(int shape, int size, CString folder,
                                             CString list_display, CString file_display,
                                             CString list);
 
+// Shows the entries of the host's menus, titles with the files that they open, and lets the user
+// add entries, change them, or edit the file in an external text editor. What the user changes is
+// in the file when another menu is shown, when the editor starts, or at the end; all else in the
+// file stays as it is. The file must exist for that, and a menu has 35 entries at the most. A title
+// and a file that a line of 199 bytes can't hold aren't taken.
+//
+//   folder  the folder of the menu files, with its separator
+//   editor  the command of the text editor; a blank and the file's path go behind it. Nothing is
+//           started if all has more than 299 bytes.
+//   kind    0 the five text menus, 1 the three picture menus, both in "SOURCE\MENUFILE.DAT"; 2 the
+//           picture map, in "Guidemap\Guidemap.DAT". Any other number shows no dialog.
+//
+// Returns 1 if the user ended the dialog with OK and the file was written or the editor asked for;
+// -1 otherwise, also if the user gave up after changes that are in the file.
+ORRERYUI_EXPORT int OnDlgMenuBarFileUpdate(CString folder, CString editor, int kind);
+
 // Shows the main text of a text file: its lines up to the first one that reads 999. The user may
 // type into the text, but nothing is written. A file that can't be read shows as an empty one, and
 // a line of more than 3198 bytes as several.

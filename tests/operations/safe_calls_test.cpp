@@ -27,6 +27,8 @@ const Operation kOperations[] = {
     {"OnRouteRegistModule",
      [] { return OnRouteRegistModule(0, 0, "", "", "", "", "", "", "", "", "", "", "", "", ""); },
      "cancel"},
+    {"OnDlgMenuBarFileUpdate",
+     [] { return CString(std::to_string(OnDlgMenuBarFileUpdate("", "", 0)).c_str()); }, "-1"},
     {"OnTextDisplayDaialog", [] { return OnTextDisplayDaialog("", "", ""), CString(); }, ""},
     {"OnMemoDisplay", [] { return OnMemoDisplay(0, 0, "", ""), CString(); }, ""},
     {"OnRengeConfirm",
