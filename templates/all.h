@@ -11,6 +11,7 @@
 #include "templates/memo.h"
 #include "templates/menu_add.h"
 #include "templates/menu_file.h"
+#include "templates/menu_slide.h"
 #include "templates/palette.h"
 #include "templates/range.h"
 #include "templates/region.h"
@@ -25,9 +26,9 @@ inline constexpr const DialogTemplate* kAllTemplates[] = {
     &album_files::kTemplate,  &album_regist::kTemplate, &album_update::kTemplate,
     &data_source::kTemplate,  &legend::kTemplate,       &map_type::kTemplate,
     &memo::kTemplate,         &menu_add::kTemplate,     &menu_file::kTemplate,
-    &palette::kTemplate,      &range::kTemplate,        &region::kTemplate,
-    &route_regist::kTemplate, &route_select::kTemplate, &route_update::kTemplate,
-    &text_view::kTemplate,
+    &menu_slide::kTemplate,   &palette::kTemplate,      &range::kTemplate,
+    &region::kTemplate,       &route_regist::kTemplate, &route_select::kTemplate,
+    &route_update::kTemplate, &text_view::kTemplate,
 };
 
 }  // namespace orreryui

@@ -15,14 +15,16 @@ Operation AlbumUpdate();
 Operation RouteRegist();
 Operation RouteInformation();
 Operation MenuBarFileUpdate();
+Operation MenuBarSlideSet();
 Operation TextDisplay();
 Operation MemoDisplay();
 Operation RangeConfirm();
 
 // In the order in which they are listed and visited.
 inline constexpr Operation (*kAllOperations[])() = {
-    MapTypeSet,  MapPalleteSet,    LegendElevetion,   DataSourceSet, DllAlbumRegist, AlbumUpdate,
-    RouteRegist, RouteInformation, MenuBarFileUpdate, TextDisplay,   MemoDisplay,    RangeConfirm,
+    MapTypeSet,  MapPalleteSet, LegendElevetion,  DataSourceSet,     DllAlbumRegist,
+    AlbumUpdate, RouteRegist,   RouteInformation, MenuBarFileUpdate, MenuBarSlideSet,
+    TextDisplay, MemoDisplay,   RangeConfirm,
 };
 
 }  // namespace orreryui::host

@@ -226,6 +226,19 @@ ORRERYUI_EXPORT CString OnRouteRegistModule(int shape, int size, CString folder,
 // -1 otherwise, also if the user gave up after changes that are in the file.
 ORRERYUI_EXPORT int OnDlgMenuBarFileUpdate(CString folder, CString editor, int kind);
 
+// Lets the user choose which of the host's menus take part in a slide show, and how it goes on.
+// Beside each menu stands how many files it has. Nothing is written.
+//
+//   folder    the folder of "SOURCE\MENUFILE.DAT", with its separator
+//   display   "AUTO" or "MANUAL": whether the slides follow of themselves. Any other text shows as
+//             manual, and comes back unless the user chooses.
+//   interval  seconds between two slides
+//
+// Returns eleven numbers and a text: 1 or 0 for each of the five text menus and the three picture
+// menus; 1 if the user chose all at once, else 0; 1 if any is chosen, else -1; the interval, which
+// the user can't bring below 2; the display.
+ORRERYUI_EXPORT CString OnDlgMenuBarSlideSet(CString folder, CString display, int interval);
+
 // Shows the main text of a text file: its lines up to the first one that reads 999. The user may
 // type into the text, but nothing is written. A file that can't be read shows as an empty one, and
 // a line of more than 3198 bytes as several.

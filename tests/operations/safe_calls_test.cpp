@@ -29,6 +29,7 @@ const Operation kOperations[] = {
      "cancel"},
     {"OnDlgMenuBarFileUpdate",
      [] { return CString(std::to_string(OnDlgMenuBarFileUpdate("", "", 0)).c_str()); }, "-1"},
+    {"OnDlgMenuBarSlideSet", [] { return OnDlgMenuBarSlideSet("", "", 0); }, ""},
     {"OnTextDisplayDaialog", [] { return OnTextDisplayDaialog("", "", ""), CString(); }, ""},
     {"OnMemoDisplay", [] { return OnMemoDisplay(0, 0, "", ""), CString(); }, ""},
     {"OnRengeConfirm",
