@@ -7,6 +7,7 @@
 #include "presentation/memo_dialog.h"
 #include "presentation/menu_file_dialog.h"
 #include "presentation/menu_slide_dialog.h"
+#include "presentation/slide_dialog.h"
 #include "presentation/text_view_dialog.h"
 
 namespace orreryui {
@@ -37,6 +38,31 @@ CString OnDlgMenuBarSlideSet(CString folder, CString display, int interval) {
         .Number(any ? 1 : -1)
         .Number(dialog.m_nInterval)
         .End(dialog.m_strDisplay);
+  });
+}
+
+CString OnSlideSet(int content, int interval, int map_size, CString memo, CString method,
+                   CString remaining, CString position_map, CString jpeg) {
+  return RunOperation(CString(), [&] {
+    CDlgSlide dialog;
+    dialog.m_nContent = content;
+    dialog.m_nInterval = interval;
+    dialog.m_nMapSize = map_size;
+    dialog.m_strMemo = memo;
+    dialog.m_strMethod = method;
+    dialog.m_strRemaining = remaining;
+    dialog.m_strPositionMap = position_map;
+    dialog.m_strJpeg = jpeg;
+    if (dialog.DoModal() != IDOK) return CString();
+    return ResultString()
+        .Number(dialog.m_nContent)
+        .Number(dialog.m_nInterval)
+        .Number(dialog.m_nMapSize)
+        .Text(dialog.m_strMemo)
+        .Text(dialog.m_strMethod)
+        .Text(dialog.m_strRemaining)
+        .Text(dialog.m_strPositionMap)
+        .End(dialog.m_strJpeg);
   });
 }
 

@@ -18,6 +18,7 @@
 #include "templates/route_regist.h"
 #include "templates/route_select.h"
 #include "templates/route_update.h"
+#include "templates/slide.h"
 #include "templates/text_view.h"
 
 namespace orreryui {
@@ -28,7 +29,7 @@ inline constexpr const DialogTemplate* kAllTemplates[] = {
     &memo::kTemplate,         &menu_add::kTemplate,     &menu_file::kTemplate,
     &menu_slide::kTemplate,   &palette::kTemplate,      &range::kTemplate,
     &region::kTemplate,       &route_regist::kTemplate, &route_select::kTemplate,
-    &route_update::kTemplate, &text_view::kTemplate,
+    &route_update::kTemplate, &slide::kTemplate,        &text_view::kTemplate,
 };
 
 }  // namespace orreryui

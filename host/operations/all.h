@@ -16,6 +16,7 @@ Operation RouteRegist();
 Operation RouteInformation();
 Operation MenuBarFileUpdate();
 Operation MenuBarSlideSet();
+Operation SlideSet();
 Operation TextDisplay();
 Operation MemoDisplay();
 Operation RangeConfirm();
@@ -24,7 +25,7 @@ Operation RangeConfirm();
 inline constexpr Operation (*kAllOperations[])() = {
     MapTypeSet,  MapPalleteSet, LegendElevetion,  DataSourceSet,     DllAlbumRegist,
     AlbumUpdate, RouteRegist,   RouteInformation, MenuBarFileUpdate, MenuBarSlideSet,
-    TextDisplay, MemoDisplay,   RangeConfirm,
+    SlideSet,    TextDisplay,   MemoDisplay,      RangeConfirm,
 };
 
 }  // namespace orreryui::host

@@ -239,6 +239,24 @@ ORRERYUI_EXPORT int OnDlgMenuBarFileUpdate(CString folder, CString editor, int k
 // the user can't bring below 2; the display.
 ORRERYUI_EXPORT CString OnDlgMenuBarSlideSet(CString folder, CString display, int interval);
 
+// Lets the user set how the host runs a slide show of the registered points. Nothing is read or
+// written. A value that isn't one of those named here comes back unless the user changes it.
+//
+//   content       1 texts, 2 pictures, 3 both
+//   interval      seconds between two slides, which the user can't bring below 1
+//   map_size      of the position map: 1 large, 2 small
+//   memo          "ON" or "OFF", in upper case: whether a picture shows with its memo
+//   method        "AUTO" or "MANUAL": whether the slides follow of themselves
+//   remaining     "on" or "off", in lower case like those below: whether the seconds that remain
+//                 are shown
+//   position_map  "on" or "off": whether the map of the registered points is shown
+//   jpeg          "on" or "off": "off" leaves out the JPG pictures
+//
+// Returns three numbers and five texts: the eight settings, in the order of the arguments.
+ORRERYUI_EXPORT CString OnSlideSet(int content, int interval, int map_size, CString memo,
+                                   CString method, CString remaining, CString position_map,
+                                   CString jpeg);
+
 // Shows the main text of a text file: its lines up to the first one that reads 999. The user may
 // type into the text, but nothing is written. A file that can't be read shows as an empty one, and
 // a line of more than 3198 bytes as several.

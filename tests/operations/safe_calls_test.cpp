@@ -30,6 +30,7 @@ const Operation kOperations[] = {
     {"OnDlgMenuBarFileUpdate",
      [] { return CString(std::to_string(OnDlgMenuBarFileUpdate("", "", 0)).c_str()); }, "-1"},
     {"OnDlgMenuBarSlideSet", [] { return OnDlgMenuBarSlideSet("", "", 0); }, ""},
+    {"OnSlideSet", [] { return OnSlideSet(0, 0, 0, "", "", "", "", ""); }, ""},
     {"OnTextDisplayDaialog", [] { return OnTextDisplayDaialog("", "", ""), CString(); }, ""},
     {"OnMemoDisplay", [] { return OnMemoDisplay(0, 0, "", ""), CString(); }, ""},
     {"OnRengeConfirm",
