@@ -18,7 +18,7 @@ DataFileList ReadDataFileList(const CString& path) {
     if (!line.IsEmpty() && line[0] != ';') list.names.push_back(line);
   }
   if (list.names.size() == kMostDataFileNames) list.rest = reader.ReadRest();
-  list.complete = reader.IsMissing() || (reader.IsOpen() && !reader.Failed());
+  list.complete = reader.IsComplete();
   return list;
 }
 

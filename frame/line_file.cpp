@@ -76,6 +76,7 @@ const char* LineReader::FindLineFeed() {
 
 bool LineReader::ReadLine(std::string_view& line) {
   const char* const line_feed = FindLineFeed();
+  bytes_ = {};
   if (!line_feed && failed_) {
     line = {};
     return false;
@@ -91,7 +92,8 @@ bool LineReader::ReadLine(std::string_view& line) {
   empty_line_due_ = line_feed != nullptr;
   if (length > longest_) length = taken = longest_;
   begin_ += taken;
-  line = std::string_view(begin, length);
+  bytes_ = std::string_view(begin, taken);
+  line = bytes_.substr(0, length);
   if (holds_nul_) line = line.substr(0, line.find('\0'));
   return true;
 }

@@ -54,6 +54,10 @@ class LineReader {
   bool ReadLine(std::string_view& line);
   bool ReadLine(CString& line);
 
+  // The bytes of the file that the last line was taken from, its line end among them. The view
+  // holds until the next call.
+  std::string_view Bytes() const { return bytes_; }
+
   // What ReadLine hasn't given yet, byte for byte, so that a rewrite can carry it through.
   std::string ReadRest();
 
@@ -67,6 +71,9 @@ class LineReader {
   // Whether reading broke off before the end. The lines so far are then not the whole file, and
   // rewriting it from them would lose the others.
   bool Failed() const { return failed_; }
+
+  // Whether the lines so far, to the end, are known to be all that there is.
+  bool IsComplete() const { return missing_ || (IsOpen() && !failed_); }
 
  private:
   const char* FindLineFeed();
@@ -83,6 +90,7 @@ class LineReader {
   bool at_end_ = false;     // the file has no bytes behind block_
   bool failed_ = false;
   bool empty_line_due_ = false;  // the last line that was read had its LF
+  std::string_view bytes_;       // of the last line, in block_
 };
 
 // Writes a file whole. One that exists gets the new content; its folder must exist.

@@ -16,6 +16,7 @@ class Hand {
                     const std::string& text) = 0;  // instead of the text of an edit box
   virtual void PickFromCombo(int control, int row) = 0;
   virtual void PickFromList(int control, int row) = 0;  // or from a combo box that is always open
+  virtual void OpenFromList(int control, int row) = 0;  // by a double click
   virtual void TakePicture() = 0;
 };
 

@@ -12,6 +12,7 @@ namespace orreryui::host {
 inline const std::string kPaletteFolder = std::string(kDataFolder) + "/palettes/";
 inline const std::string kAlbumFolder = std::string(kDataFolder) + "/album/";
 inline const std::string kMapFolder = std::string(kDataFolder) + "/maps/";
+inline const std::string kMenuFolder = std::string(kDataFolder) + "/";
 
 // Kamakura station.
 inline constexpr char kStartLongitude[] = "139.5503";

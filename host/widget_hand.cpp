@@ -13,10 +13,11 @@
 namespace orreryui::host {
 namespace {
 
-void ClickMouse(QWidget& widget, const QPointF& place) {
+// What is pressed is the second click of a double click, or the only one.
+void ClickMouse(QWidget& widget, const QPointF& place,
+                QEvent::Type pressed = QEvent::MouseButtonPress) {
   const QPointF on_screen = widget.mapToGlobal(place);
-  QMouseEvent press(QEvent::MouseButtonPress, place, on_screen, Qt::LeftButton, Qt::LeftButton,
-                    Qt::NoModifier);
+  QMouseEvent press(pressed, place, on_screen, Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
   QApplication::sendEvent(&widget, &press);
   QMouseEvent release(QEvent::MouseButtonRelease, place, on_screen, Qt::LeftButton, Qt::NoButton,
                       Qt::NoModifier);
@@ -71,7 +72,14 @@ void WidgetHand::PickFromCombo(int control, int row) {
   PressKey(*combo->view(), Qt::Key_Return);
 }
 
-void WidgetHand::PickFromList(int control, int row) {
+void WidgetHand::PickFromList(int control, int row) { ClickRow(control, row); }
+
+void WidgetHand::OpenFromList(int control, int row) {
+  ClickRow(control, row);
+  ClickRow(control, row, QEvent::MouseButtonDblClick);
+}
+
+void WidgetHand::ClickRow(int control, int row, QEvent::Type pressed) {
   auto* const widget = Find<QWidget>(control);
   if (!widget) return;
   auto* list = qobject_cast<QAbstractItemView*>(widget);
@@ -79,7 +87,7 @@ void WidgetHand::PickFromList(int control, int row) {
   const QModelIndex index = list ? list->model()->index(row, 0) : QModelIndex();
   if (!index.isValid()) return fail_(QString("control %1 has no row %2").arg(control).arg(row));
   list->scrollTo(index);
-  ClickMouse(*list->viewport(), list->visualRect(index).center());
+  ClickMouse(*list->viewport(), list->visualRect(index).center(), pressed);
 }
 
 void WidgetHand::TakePicture() {

@@ -3,6 +3,7 @@
 #ifndef ORRERYUI_HOST_WIDGET_HAND_H_
 #define ORRERYUI_HOST_WIDGET_HAND_H_
 
+#include <QEvent>
 #include <QString>
 #include <QWidget>
 #include <functional>
@@ -22,12 +23,15 @@ class WidgetHand : public Hand {
   void Type(int control, const std::string& text) override;
   void PickFromCombo(int control, int row) override;
   void PickFromList(int control, int row) override;
+  void OpenFromList(int control, int row) override;
   void TakePicture() override;
 
  private:
   // The widget of a control that a user could reach; otherwise fails and returns null.
   template <typename Widget>
   Widget* Find(int control);
+
+  void ClickRow(int control, int row, QEvent::Type pressed = QEvent::MouseButtonPress);
 
   QWidget& dialog_;
   std::function<void(const QString&)> fail_;

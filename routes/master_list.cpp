@@ -9,10 +9,6 @@ namespace {
 
 constexpr std::size_t kLineLimit = 200;
 
-bool IsComplete(const LineReader& reader) {
-  return reader.IsMissing() || (reader.IsOpen() && !reader.Failed());
-}
-
 MasterList ReadAsItStands(const CString& path) {
   LineReader reader(path, kLineLimit);
   MasterList list;
@@ -22,7 +18,7 @@ MasterList ReadAsItStands(const CString& path) {
   }
   list.rest = reader.ReadRest();
   list.opened = reader.IsOpen();
-  list.complete = IsComplete(reader);
+  list.complete = reader.IsComplete();
   return list;
 }
 
@@ -61,7 +57,7 @@ bool IsMasterEntry(const MasterEntry& entry) {
 bool AppendMasterEntry(FileChanges& changes, const CString& path, const MasterEntry& entry) {
   LineReader reader(path, kLineLimit);
   std::string content = reader.ReadRest();
-  if (!IsComplete(reader) || !IsMasterEntry(entry)) return false;
+  if (!reader.IsComplete() || !IsMasterEntry(entry)) return false;
   if (!content.empty() && !content.ends_with('\n')) content += "\r\n";
   return changes.Commit(content + std::string(JoinMasterEntry(entry)) + "\r\n");
 }

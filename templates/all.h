@@ -9,12 +9,16 @@
 #include "templates/legend.h"
 #include "templates/map_type.h"
 #include "templates/memo.h"
+#include "templates/menu_add.h"
+#include "templates/menu_file.h"
+#include "templates/menu_slide.h"
 #include "templates/palette.h"
 #include "templates/range.h"
 #include "templates/region.h"
 #include "templates/route_regist.h"
 #include "templates/route_select.h"
 #include "templates/route_update.h"
+#include "templates/slide.h"
 #include "templates/text_view.h"
 
 namespace orreryui {
@@ -22,9 +26,10 @@ namespace orreryui {
 inline constexpr const DialogTemplate* kAllTemplates[] = {
     &album_files::kTemplate,  &album_regist::kTemplate, &album_update::kTemplate,
     &data_source::kTemplate,  &legend::kTemplate,       &map_type::kTemplate,
-    &memo::kTemplate,         &palette::kTemplate,      &range::kTemplate,
+    &memo::kTemplate,         &menu_add::kTemplate,     &menu_file::kTemplate,
+    &menu_slide::kTemplate,   &palette::kTemplate,      &range::kTemplate,
     &region::kTemplate,       &route_regist::kTemplate, &route_select::kTemplate,
-    &route_update::kTemplate, &text_view::kTemplate,
+    &route_update::kTemplate, &slide::kTemplate,        &text_view::kTemplate,
 };
 
 }  // namespace orreryui

@@ -14,14 +14,18 @@ Operation DllAlbumRegist();
 Operation AlbumUpdate();
 Operation RouteRegist();
 Operation RouteInformation();
+Operation MenuBarFileUpdate();
+Operation MenuBarSlideSet();
+Operation SlideSet();
 Operation TextDisplay();
 Operation MemoDisplay();
 Operation RangeConfirm();
 
 // In the order in which they are listed and visited.
 inline constexpr Operation (*kAllOperations[])() = {
-    MapTypeSet,  MapPalleteSet,    LegendElevetion, DataSourceSet, DllAlbumRegist, AlbumUpdate,
-    RouteRegist, RouteInformation, TextDisplay,     MemoDisplay,   RangeConfirm,
+    MapTypeSet,  MapPalleteSet, LegendElevetion,  DataSourceSet,     DllAlbumRegist,
+    AlbumUpdate, RouteRegist,   RouteInformation, MenuBarFileUpdate, MenuBarSlideSet,
+    SlideSet,    TextDisplay,   MemoDisplay,      RangeConfirm,
 };
 
 }  // namespace orreryui::host

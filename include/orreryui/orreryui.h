@@ -212,6 +212,53 @@ ORRERYUI_EXPORT CString OnRouteRegistModule(int shape, int size, CString folder,
                                             CString list_display, CString file_display,
                                             CString list);
 
+// Shows the entries of the host's menus, titles with the files that they open, and lets the user
+// add entries, change them, or edit the file in an external text editor. What the user changes is
+// in the file when another menu is shown, when the editor starts, or at the end; all else in the
+// file stays as it is. The file must exist for that, and a menu has 35 entries at the most. A title
+// and a file that a line of 199 bytes can't hold aren't taken.
+//
+//   folder  the folder of the menu files, with its separator
+//   editor  the command of the text editor; a blank and the file's path go behind it. Nothing is
+//           started if all has more than 299 bytes.
+//   kind    0 the five text menus, 1 the three picture menus, both in "SOURCE\MENUFILE.DAT"; 2 the
+//           picture map, in "Guidemap\Guidemap.DAT". Any other number shows no dialog.
+//
+// Returns 1 if the user ended the dialog with OK and the file was written or the editor asked for;
+// -1 otherwise, also if the user gave up after changes that are in the file.
+ORRERYUI_EXPORT int OnDlgMenuBarFileUpdate(CString folder, CString editor, int kind);
+
+// Lets the user choose which of the host's menus take part in a slide show, and how it goes on.
+// Beside each menu stands how many files it has. Nothing is written.
+//
+//   folder    the folder of "SOURCE\MENUFILE.DAT", with its separator
+//   display   "AUTO" or "MANUAL": whether the slides follow of themselves. Any other text shows as
+//             manual, and comes back unless the user chooses.
+//   interval  seconds between two slides
+//
+// Returns eleven numbers and a text: 1 or 0 for each of the five text menus and the three picture
+// menus; 1 if the user chose all at once, else 0; 1 if any is chosen, else -1; the interval, which
+// the user can't bring below 2; the display.
+ORRERYUI_EXPORT CString OnDlgMenuBarSlideSet(CString folder, CString display, int interval);
+
+// Lets the user set how the host runs a slide show of the registered points. Nothing is read or
+// written. A value that isn't one of those named here comes back unless the user changes it.
+//
+//   content       1 texts, 2 pictures, 3 both
+//   interval      seconds between two slides, which the user can't bring below 1
+//   map_size      of the position map: 1 large, 2 small
+//   memo          "ON" or "OFF", in upper case: whether a picture shows with its memo
+//   method        "AUTO" or "MANUAL": whether the slides follow of themselves
+//   remaining     "on" or "off", in lower case like those below: whether the seconds that remain
+//                 are shown
+//   position_map  "on" or "off": whether the map of the registered points is shown
+//   jpeg          "on" or "off": "off" leaves out the JPG pictures
+//
+// Returns three numbers and five texts: the eight settings, in the order of the arguments.
+ORRERYUI_EXPORT CString OnSlideSet(int content, int interval, int map_size, CString memo,
+                                   CString method, CString remaining, CString position_map,
+                                   CString jpeg);
+
 // Shows the main text of a text file: its lines up to the first one that reads 999. The user may
 // type into the text, but nothing is written. A file that can't be read shows as an empty one, and
 // a line of more than 3198 bytes as several.

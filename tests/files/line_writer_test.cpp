@@ -6,14 +6,12 @@
 #include <unistd.h>
 
 #include <functional>
-#include <optional>
 #include <string>
 #include <vector>
 
 #include "frame/file_changes.h"
 #include "frame/line_file.h"
 #include "tests/support/each_fault.h"
-#include "tests/support/test_folder.h"
 
 namespace orreryui {
 namespace {
@@ -21,36 +19,6 @@ namespace {
 class LineWriterTest : public testing::Test {
  protected:
   CString At(const std::string& name) const { return folder_.PathOf(name).c_str(); }
-
-  // Plays `change` with a fault at each of its calls, and kills a process that makes it at each.
-  // The folder must hold `before` or `after`, and what a change says that it did. Tried again, it
-  // succeeds and leaves nothing beside.
-  void ExpectAllOrNothing(const Files& before, const Files& after,
-                          const std::function<bool()>& change) const {
-    const auto expect = [&](bool changed) {
-      Files found = folder_.Content();
-      // What is left of a second file stays for the next writer.
-      std::erase_if(found, [&](const auto& file) {
-        return !before.contains(file.first) && !after.contains(file.first);
-      });
-      ASSERT_EQ(found, changed ? after : before);
-      EXPECT_TRUE(changed || change());
-      EXPECT_EQ(folder_.Content(), after);
-    };
-    ForEachFault([&](FaultyFileSystem& files) {
-      folder_.Lay(before);
-      std::optional<ScopedFileSystem> scope(files);
-      const bool changed = change();
-      scope.reset();
-      EXPECT_TRUE(changed || files.Failed());
-      if (files.fault() == Fault::kOnce) {
-        EXPECT_EQ(folder_.Content(), changed ? after : before);
-        EXPECT_TRUE(!changed || files.all_on_disk());
-      }
-      expect(changed);
-    });
-    ForEachKill([&] { folder_.Lay(before); }, change, [&] { expect(folder_.Content() == after); });
-  }
 
   TestFolder folder_;
   FaultyFileSystem never_synced_;
@@ -62,29 +30,29 @@ TEST_F(LineWriterTest, CreatesAFileOrKeepsWhatWasThere) {
   const std::string longer = "a much longer content than the new one\r\n";
   for (const Files& before :
        {Files(), Files{{"f", ""}}, Files{{"f", "x\r\n"}}, Files{{"f", longer}}}) {
-    ExpectAllOrNothing(before, after, [&] { return CreateFile(At("f"), "a\r\nb\r\n"); });
+    ExpectAllOrNothing(folder_, before, after, [&] { return CreateFile(At("f"), "a\r\nb\r\n"); });
   }
 }
 
 TEST_F(LineWriterTest, AppendsALineOrNone) {
   const auto append = [&] { return AppendLine(At("f"), "new", IfMissing::kFail); };
-  ExpectAllOrNothing({{"f", "old\r\n"}}, {{"f", "old\r\nnew\r\n"}}, append);
-  ExpectAllOrNothing({{"f", ""}}, {{"f", "new\r\n"}}, append);
-  ExpectAllOrNothing({{"f", "no end"}}, {{"f", "no end\r\nnew\r\n"}}, append);
-  ExpectAllOrNothing({}, {{"f", "new\r\n"}},
+  ExpectAllOrNothing(folder_, {{"f", "old\r\n"}}, {{"f", "old\r\nnew\r\n"}}, append);
+  ExpectAllOrNothing(folder_, {{"f", ""}}, {{"f", "new\r\n"}}, append);
+  ExpectAllOrNothing(folder_, {{"f", "no end"}}, {{"f", "no end\r\nnew\r\n"}}, append);
+  ExpectAllOrNothing(folder_, {}, {{"f", "new\r\n"}},
                      [&] { return AppendLine(At("f"), "new", IfMissing::kCreate); });
 }
 
 TEST_F(LineWriterTest, RewritesInPlaceOrNotAtAll) {
   for (const std::string content : {"", "a\r\n", "a content that is longer than the old one\r\n"}) {
-    ExpectAllOrNothing({{"f", "first\r\nsecond\r\n"}}, {{"f", content}},
+    ExpectAllOrNothing(folder_, {{"f", "first\r\nsecond\r\n"}}, {{"f", content}},
                        [&] { return RewriteInPlace(At("f"), content); });
   }
 }
 
 TEST_F(LineWriterTest, ReplacesThroughANewFileOrNotAtAll) {
   const auto replace = [&] { return ReplaceThroughNewFile(At("f"), At("f.new"), "new\r\n"); };
-  ExpectAllOrNothing({{"f", "old content\r\n"}}, {{"f", "new\r\n"}}, replace);
+  ExpectAllOrNothing(folder_, {{"f", "old content\r\n"}}, {{"f", "new\r\n"}}, replace);
   folder_.Lay({{"f", "old\r\n"}, {"f.new", "left behind, and longer than the new content\r\n"}});
   EXPECT_TRUE(replace());
   EXPECT_EQ(folder_.Content(), (Files{{"f", "new\r\n"}}));
@@ -92,7 +60,7 @@ TEST_F(LineWriterTest, ReplacesThroughANewFileOrNotAtAll) {
 
 TEST_F(LineWriterTest, RenamesOrNotAtAll) {
   const auto rename = [&] { return RenameFile(At("a"), At("b")); };
-  ExpectAllOrNothing({{"a", "A"}}, {{"b", "A"}}, rename);
+  ExpectAllOrNothing(folder_, {{"a", "A"}}, {{"b", "A"}}, rename);
   folder_.Lay({{"a", "A"}, {"B", "B"}});
   EXPECT_FALSE(rename()) << "the name is taken, in another case";
   EXPECT_EQ(folder_.Content(), (Files{{"a", "A"}, {"B", "B"}}));

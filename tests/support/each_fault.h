@@ -8,8 +8,10 @@
 #include <unistd.h>
 
 #include <functional>
+#include <optional>
 
 #include "tests/support/faulty_file_system.h"
+#include "tests/support/test_folder.h"
 
 namespace orreryui {
 
@@ -74,6 +76,36 @@ inline void ForEachKill(const std::function<void()>& lay, const std::function<vo
     check();
   }
   EXPECT_GT(call, 1) << "no call ended the process";
+}
+
+// Plays `change` with a fault at each of its calls, and kills a process that makes it at each. The
+// folder must hold `before` or `after`, and what a change says that it did. Tried again, it
+// succeeds and leaves nothing beside.
+inline void ExpectAllOrNothing(const TestFolder& folder, const Files& before, const Files& after,
+                               const std::function<bool()>& change) {
+  const auto expect = [&](bool changed) {
+    Files found = folder.Content();
+    // What is left of a second file stays for the next writer.
+    std::erase_if(found, [&](const auto& file) {
+      return !before.contains(file.first) && !after.contains(file.first);
+    });
+    ASSERT_EQ(found, changed ? after : before);
+    EXPECT_TRUE(changed || change());
+    EXPECT_EQ(folder.Content(), after);
+  };
+  ForEachFault([&](FaultyFileSystem& files) {
+    folder.Lay(before);
+    std::optional<ScopedFileSystem> scope(files);
+    const bool changed = change();
+    scope.reset();
+    EXPECT_TRUE(changed || files.Failed());
+    if (files.fault() == Fault::kOnce) {
+      EXPECT_EQ(folder.Content(), changed ? after : before);
+      EXPECT_TRUE(!changed || files.all_on_disk());
+    }
+    expect(changed);
+  });
+  ForEachKill([&] { folder.Lay(before); }, change, [&] { expect(folder.Content() == after); });
 }
 
 }  // namespace orreryui

@@ -34,7 +34,9 @@ class TestFolder {
   // As an operation wants it, with the separator behind it.
   CString Argument() const { return (path_.string() + "/").c_str(); }
 
+  // Below the folder, if the name says so.
   void Write(const std::string& name, const std::string& bytes) const {
+    create_directories((path_ / name).parent_path());
     std::ofstream(path_ / name, std::ios::binary) << bytes;
   }
   // A program that does these commands. Returns its path.
