@@ -16,6 +16,8 @@ class Hand {
                     const std::string& text) = 0;  // instead of the text of an edit box
   virtual void PickFromCombo(int control, int row) = 0;
   virtual void PickFromList(int control, int row) = 0;  // or from a combo box that is always open
+  virtual void PickTab(int control, int tab) = 0;
+  virtual void GiveUp() = 0;  // closes the dialog
   virtual void TakePicture() = 0;
 };
 

@@ -22,6 +22,8 @@ class WidgetHand : public Hand {
   void Type(int control, const std::string& text) override;
   void PickFromCombo(int control, int row) override;
   void PickFromList(int control, int row) override;
+  void PickTab(int control, int tab) override;
+  void GiveUp() override;
   void TakePicture() override;
 
  private:

@@ -16,12 +16,13 @@ Operation RouteRegist();
 Operation RouteInformation();
 Operation TextDisplay();
 Operation MemoDisplay();
+Operation GnpfRetrieveSet();
 Operation RangeConfirm();
 
 // In the order in which they are listed and visited.
 inline constexpr Operation (*kAllOperations[])() = {
-    MapTypeSet,  MapPalleteSet,    LegendElevetion, DataSourceSet, DllAlbumRegist, AlbumUpdate,
-    RouteRegist, RouteInformation, TextDisplay,     MemoDisplay,   RangeConfirm,
+    MapTypeSet,  MapPalleteSet,    LegendElevetion, DataSourceSet, DllAlbumRegist,  AlbumUpdate,
+    RouteRegist, RouteInformation, TextDisplay,     MemoDisplay,   GnpfRetrieveSet, RangeConfirm,
 };
 
 }  // namespace orreryui::host
