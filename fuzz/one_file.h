@@ -46,6 +46,7 @@ class OneFile final : public FileSystem {
       return true;
     }
     std::optional<std::uint64_t> Size() override { return content_.size(); }
+    std::optional<std::time_t> Modified() override { return 0; }
     bool Truncate(std::uint64_t) override { return false; }
     bool Sync() override { return false; }
     bool Lock(std::chrono::milliseconds) override { return true; }

@@ -17,6 +17,8 @@ class Hand {
   virtual void PickFromCombo(int control, int row) = 0;
   virtual void PickFromList(int control, int row) = 0;  // or from a combo box that is always open
   virtual void OpenFromList(int control, int row) = 0;  // by a double click
+  virtual void PickTab(int control, int tab) = 0;
+  virtual void GiveUp() = 0;  // closes the dialog
   virtual void TakePicture() = 0;
 };
 

@@ -163,7 +163,7 @@ void HostWindow::ShowResult(const Operation& operation, const Outcome& outcome) 
   for (std::size_t i = 0; i < texts.size(); ++i) {
     const int row = static_cast<int>(i);
     fields_->setItem(row, 0, Cell(operation.fields[i].name));
-    fields_->setItem(row, 1, Cell(texts[i]));
+    fields_->setItem(row, 1, Cell(ShownValue(operation, texts, i)));
     fields_->setItem(row, 2, Cell(operation.fields[i].meaning));
   }
   fields_->resizeColumnToContents(1);

@@ -32,6 +32,13 @@ std::vector<std::string> FieldsOf(const Operation& operation, const std::string&
   return texts;
 }
 
+std::string ShownValue(const Operation& operation, const std::vector<std::string>& values,
+                       std::size_t index) {
+  const std::string& value = values[index];
+  const std::string words = operation.explain ? operation.explain(values, index) : "";
+  return words.empty() ? value : value + " " + words;
+}
+
 std::vector<std::string> InOrder(const Operation& operation, const Values& values) {
   std::vector<std::string> ordered;
   for (const Argument& argument : operation.arguments) {
@@ -43,15 +50,18 @@ std::vector<std::string> InOrder(const Operation& operation, const Values& value
 void KeepResult(const Operation& operation, const std::string& result, Values& kept) {
   const std::vector<std::string> texts = FieldsOf(operation, result);
   std::map<std::string, long long> sums;
+  Values whole;
   for (std::size_t i = 0; i < texts.size(); ++i) {
     const Field& field = operation.fields[i];
     if (field.next_argument.empty()) continue;
     if (field.factor == 0) {
-      kept[field.next_argument] = texts[i];
+      const auto [value, is_first] = whole.try_emplace(field.next_argument, texts[i]);
+      if (!is_first) value->second += '|' + texts[i];
     } else {
       sums[field.next_argument] += std::atoll(texts[i].c_str()) * field.factor;
     }
   }
+  for (const auto& [argument, value] : whole) kept[argument] = value;
   for (const auto& [argument, sum] : sums) kept[argument] = std::to_string(sum);
 }
 

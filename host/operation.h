@@ -32,7 +32,7 @@ using Values = std::map<std::string, std::string>;
 
 // A field of a result. The sample host keeps the value of a field that gives an argument its next
 // value. Several numbers may share an argument, each with its factor: the next value is then the
-// sum of the numbers times their factors.
+// sum of the numbers times their factors. Several whole values that share one are joined by bars.
 struct Field {
   std::string name;
   std::string meaning;
@@ -65,6 +65,9 @@ struct Operation {
   // many texts, or none if it can't.
   std::size_t last_fields = 1;
   std::function<std::vector<std::string>(const std::string& text)> cut_last;
+  // What the value of the field at `index` stands for in this result, where that isn't the same in
+  // all; may be empty, and the function null.
+  std::function<std::string(const std::vector<std::string>& values, std::size_t index)> explain;
   std::string result_unless_ok;
   bool returns_something = true;
   std::vector<Step> steps;                  // of the tour's visit,
@@ -81,6 +84,10 @@ std::string UsageOf(const Operation& operation);
 // left, or the texts that `cut_last` finds there. Empty if the run didn't end in OK; shorter than
 // the fields if `cut_last` gives none.
 std::vector<std::string> FieldsOf(const Operation& operation, const std::string& result);
+
+// The value of a field for a person, with what it stands for behind it.
+std::string ShownValue(const Operation& operation, const std::vector<std::string>& values,
+                       std::size_t index);
 
 // One value an argument, as the operation is called with them. Each must be there.
 std::vector<std::string> InOrder(const Operation& operation, const Values& values);

@@ -14,8 +14,8 @@ namespace {
 void PrintFields(const Operation& operation, const std::string& result) {
   const std::vector<std::string> texts = FieldsOf(operation, result);
   for (std::size_t i = 0; i < texts.size(); ++i) {
-    std::printf("    %s: %s (%s)\n", operation.fields[i].name.c_str(), texts[i].c_str(),
-                operation.fields[i].meaning.c_str());
+    std::printf("    %s: %s (%s)\n", operation.fields[i].name.c_str(),
+                ShownValue(operation, texts, i).c_str(), operation.fields[i].meaning.c_str());
   }
 }
 

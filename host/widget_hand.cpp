@@ -8,6 +8,7 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPixmap>
+#include <QTabBar>
 #include <utility>
 
 namespace orreryui::host {
@@ -39,8 +40,10 @@ WidgetHand::WidgetHand(QWidget& dialog, std::function<void(const QString&)> fail
 
 template <typename Widget>
 Widget* WidgetHand::Find(int control) {
-  auto* const widget = dialog_.findChild<Widget*>(QString::number(control));
-  if (widget && widget->isVisible() && widget->isEnabled()) return widget;
+  // The pages of a tab control may have controls of one number.
+  for (auto* const widget : dialog_.findChildren<Widget*>(QString::number(control))) {
+    if (widget->isVisible() && widget->isEnabled()) return widget;
+  }
   fail_(QString("dialog %1 has no control %2 to use").arg(dialog_.objectName()).arg(control));
   return nullptr;
 }
@@ -89,6 +92,12 @@ void WidgetHand::ClickRow(int control, int row, QEvent::Type pressed) {
   list->scrollTo(index);
   ClickMouse(*list->viewport(), list->visualRect(index).center(), pressed);
 }
+
+void WidgetHand::PickTab(int control, int tab) {
+  if (auto* const bar = Find<QTabBar>(control)) ClickMouse(*bar, bar->tabRect(tab).center());
+}
+
+void WidgetHand::GiveUp() { PressKey(dialog_, Qt::Key_Escape); }
 
 void WidgetHand::TakePicture() {
   const QString file = picture_();

@@ -24,6 +24,8 @@ class WidgetHand : public Hand {
   void PickFromCombo(int control, int row) override;
   void PickFromList(int control, int row) override;
   void OpenFromList(int control, int row) override;
+  void PickTab(int control, int tab) override;
+  void GiveUp() override;
   void TakePicture() override;
 
  private:

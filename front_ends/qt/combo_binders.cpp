@@ -5,8 +5,10 @@
 #include <QScrollBar>
 #include <QVBoxLayout>
 #include <QWheelEvent>
+#include <algorithm>
 
 #include "front_ends/qt/list_rows.h"
+#include "front_ends/qt/screen_room.h"
 #include "front_ends/qt/widget_text.h"
 
 namespace orreryui {
@@ -75,8 +77,21 @@ void DropDownBinder::ShowItems(const ControlView& view) {
   combo_->clear();
   combo_->addItems(items);
   combo_->setCurrentIndex(-1);
-  QAbstractItemView* list = combo_->view();
-  list->setMinimumWidth(list->sizeHintForColumn(0) + list->verticalScrollBar()->sizeHint().width());
+  WidenList();
+}
+
+// The list is as wide as its rows, as far as the screen is. A row that is wider loses its middle.
+void DropDownBinder::WidenList() {
+  QAbstractItemView* const list = combo_->view();
+  const int frame = list->verticalScrollBar()->sizeHint().width();
+  const int room = RoomFor(*combo_->window()).width();
+  list->setMinimumWidth(std::min(list->sizeHintForColumn(0) + frame, room));
+  list->setTextElideMode(Qt::ElideMiddle);
+  for (int row = 0; row < combo_->count(); ++row) {
+    const int needed = list->sizeHintForIndex(combo_->model()->index(row, 0)).width() + frame;
+    if (needed <= room) continue;
+    combo_->setItemData(row, combo_->itemText(row).toHtmlEscaped(), Qt::ToolTipRole);
+  }
 }
 
 QSize DropDownBinder::Needed(const ControlView&, QSize offered) const {

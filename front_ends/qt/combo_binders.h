@@ -22,6 +22,7 @@ class DropDownBinder : public ControlBinder {
 
  private:
   void ShowItems(const ControlView& view);
+  void WidenList();
 
   QComboBox* combo_;
   TypedLine line_;

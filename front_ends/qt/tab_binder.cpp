@@ -1,10 +1,18 @@
 #include "front_ends/qt/tab_binder.h"
 
+#include <QShortcut>
 #include <algorithm>
 
 #include "front_ends/qt/widget_text.h"
 
 namespace orreryui {
+namespace {
+
+constexpr QKeyCombination kKeysForward[] = {Qt::CTRL | Qt::Key_Tab, Qt::CTRL | Qt::Key_PageDown};
+constexpr QKeyCombination kKeysBackward[] = {Qt::CTRL | Qt::SHIFT | Qt::Key_Tab,
+                                             Qt::CTRL | Qt::Key_PageUp};
+
+}  // namespace
 
 TabBinder::TabBinder(const BinderPlace& place, PaneFrame& frame)
     : ControlBinder(place),
@@ -20,6 +28,16 @@ TabBinder::TabBinder(const BinderPlace& place, PaneFrame& frame)
   bar_->setUsesScrollButtons(false);
   QObject::connect(bar_, &QTabBar::currentChanged, bar_, [this](int tab) {
     Run([this, tab](ControlSession& session) { session.Pick(id(), tab); });
+  });
+  for (const QKeyCombination key : kKeysForward) StepBy(1, key);
+  for (const QKeyCombination key : kKeysBackward) StepBy(-1, key);
+}
+
+void TabBinder::StepBy(int step, QKeyCombination key) {
+  auto* const shortcut = new QShortcut(QKeySequence(key), bar_);
+  QObject::connect(shortcut, &QShortcut::activated, bar_, [this, step] {
+    const int tabs = bar_->count();
+    if (tabs > 0) bar_->setCurrentIndex((bar_->currentIndex() + step + tabs) % tabs);
   });
 }
 

@@ -3,6 +3,7 @@
 #define ORRERYUI_FRONT_ENDS_QT_TAB_BINDER_H_
 
 #include <QFrame>
+#include <QKeyCombination>
 #include <QTabBar>
 #include <map>
 
@@ -12,7 +13,8 @@
 namespace orreryui {
 
 // A page is started, and its widgets made, when the session has it; of the pages only that of the
-// selected tab is shown. Pages are children of the pane that the bar stands on.
+// selected tab is shown. Pages are children of the pane that the bar stands on. Ctrl+Tab and Ctrl
+// with the page keys go to the neighbouring tab, round about, whatever has the focus in the window.
 class TabBinder : public ControlBinder {
  public:
   TabBinder(const BinderPlace& place, PaneFrame& frame);
@@ -28,6 +30,7 @@ class TabBinder : public ControlBinder {
   void ShowState(const ControlView& view) override;
 
  private:
+  void StepBy(int step, QKeyCombination key);
   bool AddPages(int tabs);
   void ShowSelectedPage(int tab);
 

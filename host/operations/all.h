@@ -19,13 +19,14 @@ Operation MenuBarSlideSet();
 Operation SlideSet();
 Operation TextDisplay();
 Operation MemoDisplay();
+Operation GnpfRetrieveSet();
 Operation RangeConfirm();
 
 // In the order in which they are listed and visited.
 inline constexpr Operation (*kAllOperations[])() = {
     MapTypeSet,  MapPalleteSet, LegendElevetion,  DataSourceSet,     DllAlbumRegist,
     AlbumUpdate, RouteRegist,   RouteInformation, MenuBarFileUpdate, MenuBarSlideSet,
-    SlideSet,    TextDisplay,   MemoDisplay,      RangeConfirm,
+    SlideSet,    TextDisplay,   MemoDisplay,      GnpfRetrieveSet,   RangeConfirm,
 };
 
 }  // namespace orreryui::host

@@ -216,7 +216,9 @@ ORRERYUI_EXPORT CString OnRouteRegistModule(int shape, int size, CString folder,
 // add entries, change them, or edit the file in an external text editor. What the user changes is
 // in the file when another menu is shown, when the editor starts, or at the end; all else in the
 // file stays as it is. The file must exist for that, and a menu has 35 entries at the most. A title
-// and a file that a line of 199 bytes can't hold aren't taken.
+// and a file that a line of 199 bytes can't hold aren't taken. Pictures are chosen through
+// OnPictureFileDialog of the library KOBALTFX ("libkobaltfx.so" where the system's loader finds it;
+// no argument, returns a CString), else in a file chooser with a preview.
 //
 //   folder  the folder of the menu files, with its separator
 //   editor  the command of the text editor; a blank and the file's path go behind it. Nothing is
@@ -279,6 +281,53 @@ ORRERYUI_EXPORT void OnTextDisplayDaialog(CString file, CString title1, CString 
 //   file  path of the text file, which is shown as well
 //   text  the text to show if `mode` is neither 1 nor 2
 ORRERYUI_EXPORT void OnMemoDisplay(int mode, int left, CString file, CString text);
+
+// Lets the user set up a retrieval over the published place names or public facilities: conditions,
+// the display of what is found, and a file for the results. Nothing is searched, no condition is
+// checked and no file is written; all that is the host's. What is passed in is what an earlier call
+// returned.
+//
+//   view         100 * character size + 10 * place-name display + the tab to open. Character size:
+//                0 small, 1 medium, 2 large. Place-name display: 0 nowhere, 1 on the 1x1 map, 2 on
+//                the 1x1 and the wide-area map, 3 on the enlarged map. Tabs: 0 place names, 1
+//                public facilities, 2 display; any other opens tab 0.
+//   file_new     0: results are added to the file, 1: the file is a new one
+//   file_format  0: dat, 1: ymd, 2: csv
+//   elevation    provisional elevation of the points, to be shown with the choice of the file
+//   kind         what was searched for: 0 place names, 1 public facilities
+//   large        the codes of the classes, -1 for none: the large, middle and small class of place
+//   middle       names. For facilities `large` isn't read, and `middle` and `small` are their large
+//   small        and small class.
+//   prefecture   index of the prefecture, its code less 1; -1 for none
+//   mesh         standard-area mesh code, as typed; empty for none
+//   word         what a name must contain; empty for none
+//   texts        the path of the result file, and three names of classes as fields 12 to 14 have
+//                them, with a bar between each; or empty
+//
+// Numbers that mean nothing show nothing, and come back unchanged unless the user changes them. A
+// path gets lower case, and an extension if it has none, once the user has looked for a file.
+//
+// Returns 18 fields, ten numbers and eight texts:
+//
+//    1      kind: that of the last page of conditions that was open, else `kind`
+//    2, 3   file_new and file_format
+//    4 - 7  large (7 for facilities), middle, small and prefecture, as they are passed in. A small
+//           class picked from the list of a class that isn't chosen any more is 60.
+//    8 - 10 place-name display, character size and the tab that was open
+//    11     path of the result file; empty if results are displayed only
+//    12     names of the classes: large, middle and small; of facilities large and small, and
+//    13     an empty text. Names stay where a code has become -1 because a class above it was
+//    14     picked.
+//    15     mesh
+//    16, 17 code, or what was typed in its place, and name of the prefecture
+//    18     word
+//
+// With a `kind` other than 0 and 1 and without a page of conditions, fields 4 to 7, 12 to 15 and 18
+// are what was passed in.
+ORRERYUI_EXPORT CString OnGnpfRetrieveSet(int view, int file_new, int file_format, int elevation,
+                                          int kind, int large, int middle, int small,
+                                          int prefecture, CString mesh, CString word,
+                                          CString texts);
 
 // Shows the corners of a range that the user drew on the map, and asks what to do with it. The
 // texts are shown as they are, usually degrees with four decimals.

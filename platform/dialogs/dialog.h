@@ -25,6 +25,7 @@
 #include <memory>
 #include <optional>
 #include <span>
+#include <utility>
 
 #include "platform/dialogs/dialog_model.h"
 #include "platform/dialogs/message_map.h"
@@ -129,12 +130,14 @@ class CDialog {
 };
 
 // A dialog whose class D has a message map: a static member function Messages() that returns a
-// range of Message<D>. Events that the map doesn't name go to CDialog. A debug build asserts that
-// the template has every control of the map.
-template <class D>
-class DialogWithMessages : public CDialog {
+// range of Message<D>. Events that the map doesn't name go to Base, which also gets what the
+// constructor is called with. A debug build asserts that the template has every control of the map.
+template <class D, class Base = CDialog>
+class DialogWithMessages : public Base {
  protected:
-  explicit DialogWithMessages(const DialogTemplate& dialog_template) : CDialog(dialog_template) {
+  template <class... Arguments>
+  explicit DialogWithMessages(const DialogTemplate& dialog_template, Arguments&&... arguments)
+      : Base(dialog_template, std::forward<Arguments>(arguments)...) {
     assert(MapFits(dialog_template));
   }
 
@@ -144,7 +147,7 @@ class DialogWithMessages : public CDialog {
       message.Send(static_cast<D&>(*this), id);
       return true;
     }
-    return CDialog::OnMessage(id, event);
+    return Base::OnMessage(id, event);
   }
 
  private:

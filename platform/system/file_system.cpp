@@ -110,6 +110,12 @@ class PosixFile final : public File {
     return static_cast<std::uint64_t>(status.st_size);
   }
 
+  std::optional<std::time_t> Modified() override {
+    struct stat status {};
+    if (::fstat(descriptor_, &status) != 0) return std::nullopt;
+    return status.st_mtime;
+  }
+
   bool Truncate(std::uint64_t size) override {
     const NoSizeSignal no_signal;
     return Retry([&] { return ::ftruncate(descriptor_, static_cast<off_t>(size)); }) == 0;

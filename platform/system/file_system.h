@@ -54,6 +54,7 @@ class File {
 
   virtual bool Seek(std::uint64_t position) = 0;
   virtual std::optional<std::uint64_t> Size() = 0;
+  virtual std::optional<std::time_t> Modified() = 0;  // seconds since 1970, UTC
   virtual bool Truncate(std::uint64_t size) = 0;
 
   // Returns once the bytes are on the disk.

@@ -55,6 +55,21 @@ TEST(OperationTest, KeepsWhatItHandsBack) {
   EXPECT_EQ(kept["NUMBER"], "17");
 }
 
+TEST(OperationTest, PassesARetrievalInAgainAndNamesItsClasses) {
+  const Operation& retrieve = *FindOperation("OnGnpfRetrieveSet");
+  const std::string result = "1|0|2|7|11|5|12|3|2|1|c:\\a.csv|国の機関|内閣法制局||53|13|東京都|局";
+  Values kept = {{"ELEVATION", "-9999"}};
+  KeepResult(retrieve, result, kept);
+  EXPECT_THAT(InOrder(retrieve, kept),
+              ElementsAre("231", "0", "2", "-9999", "1", "7", "11", "5", "12", "53", "局",
+                          "c:\\a.csv|国の機関|内閣法制局|"));
+  const auto shown = [&](std::size_t i) {
+    return ShownValue(retrieve, FieldsOf(retrieve, result), i);
+  };
+  EXPECT_EQ(shown(3) + shown(4) + shown(5), "7 公共施設11 国の機関5 内閣法制局");
+  EXPECT_EQ(shown(6) + shown(7), "12 東京都3");
+}
+
 TEST(OperationTest, CutsThePointOfAnAlbumAtItsCoordinates) {
   const Operation& update = *FindOperation("OnAlbumUpdate");
   const auto fields = [&](const char* result) { return FieldsOf(update, result); };

@@ -33,6 +33,8 @@ const Operation kOperations[] = {
     {"OnSlideSet", [] { return OnSlideSet(0, 0, 0, "", "", "", "", ""); }, ""},
     {"OnTextDisplayDaialog", [] { return OnTextDisplayDaialog("", "", ""), CString(); }, ""},
     {"OnMemoDisplay", [] { return OnMemoDisplay(0, 0, "", ""), CString(); }, ""},
+    {"OnGnpfRetrieveSet", [] { return OnGnpfRetrieveSet(0, 0, 0, 0, 0, 0, 0, 0, 0, "", "", ""); },
+     ""},
     {"OnRengeConfirm",
      [] { return CString(std::to_string(OnRengeConfirm("", "", "", "")).c_str()); }, "-1"},
 };

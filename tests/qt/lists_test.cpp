@@ -125,14 +125,18 @@ TEST_F(Lists, ReportListHasColumns) {
 
 class Combos : public Lists {};
 
-TEST_F(Combos, PopupPicksAlsoTheSelectedRowAndEscClosesIt) {
+TEST_F(Combos, PopupPicksAlsoTheSelectedRowAndFitsTheScreenAndEscClosesIt) {
   ControlView& view = AddList(ControlKind::kComboBox);
+  view.rows.push_back({std::string(2000, 'x')});
   view.selection = 1;
   view.text = "beta";
   RunAt<QComboBox>(1, [&](QComboBox& combo) {
     EXPECT_EQ(combo.currentText(), "beta");
+    EXPECT_EQ(combo.itemData(2, Qt::ToolTipRole), QVariant());
+    EXPECT_EQ(combo.itemData(3, Qt::ToolTipRole), combo.itemText(3));
     for (int row : {1, 2}) {
       combo.showPopup();
+      EXPECT_LE(combo.view()->width(), combo.screen()->size().width());
       combo.view()->setCurrentIndex(combo.model()->index(row, 0));
       QTest::keyClick(combo.view(), Qt::Key_Return);
     }

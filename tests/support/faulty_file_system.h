@@ -77,6 +77,9 @@ class FaultyFileSystem final : public FileSystem {
     std::optional<std::uint64_t> Size() override {
       return owner_.Fails() ? std::nullopt : file_->Size();
     }
+    std::optional<std::time_t> Modified() override {
+      return owner_.Fails() ? std::nullopt : file_->Modified();
+    }
     bool Truncate(std::uint64_t size) override {
       return !owner_.FailsToChange() && file_->Truncate(size);
     }
