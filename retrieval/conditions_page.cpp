@@ -38,7 +38,7 @@ void CDlgGnpfConditions::OnSelectAdmin() {
 }
 
 void CDlgGnpfConditions::OnSelectSmall() {
-  m_strSmall = PickedText(controls_.small);
+  m_strSmall = GetLBText(controls_.small, GetCurSel(controls_.small));
   m_nSmall = SmallCode(ClassOfSmall(), m_strSmall);
   ShowCode(controls_.small_code, m_nSmall);
 }

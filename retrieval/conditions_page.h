@@ -54,7 +54,6 @@ class CDlgGnpfConditions : public CDialog, public GnpfConditions {
   void TakeLarge(int code, const char* name);
   void ListSmall();
   void ShowCode(int id, int code);
-  CString PickedText(int id) const { return GetLBText(id, GetCurSel(id)); }
 
   template <class Range>
   void FillList(int id, const Range& range) {
