@@ -1,9 +1,6 @@
 // The palette editor on its files: register, update, delete, edit.
-#include <tuple>
-
-#include "appearance/palette_list.h"
 #include "tests/operations/palette_fixture.h"
-#include "tests/support/each_fault.h"
+#include "tests/support/failing_disk.h"
 
 namespace orreryui {
 namespace {
@@ -191,72 +188,28 @@ TEST_F(PaletteTest, ADeletionMakesRoomForTheNewEntry) {
   }
 }
 
-// All that a click may change: the files, and the list as the user sees it.
-using Scene = std::tuple<Files, std::vector<std::vector<std::string>>, std::string, int>;
-
-class FailingDiskTest : public PaletteTest {
- protected:
-  using Steps = std::function<void(ScriptFrontEnd&)>;
-
-  const Files before = folder.Content();
-
-  Scene Look(const ControlSession& session) const {
-    Files files = folder.Content();
-    // What is left of a second file goes with the next write.
-    std::erase_if(files, [](const auto& file) { return file.first.front() == '.'; });
-    const ControlView view = ControlOf(session, kNames);
-    return {files, view.rows, view.text, view.selection};
-  }
-
-  // Plays `prepare`, then clicks on a disk with faults. What was before the click, and what is once
-  // the list has been opened again.
-  std::pair<Scene, Scene> Click(FaultyFileSystem& files, int selected, const Steps& prepare, int id,
-                                const char* question) {
-    folder.Lay(before);
-    std::pair<Scene, Scene> scenes;
-    std::optional<ScopedFileSystem> disk;
-    ScriptFrontEnd visit;
-    prepare(visit.OpensDialog(177));
-    visit.Does([&](ControlSession& session) {
-      scenes.first = Look(session);
-      disk.emplace(files);
-      return "";
+TEST_F(PaletteTest, WhatTheDiskRefusesHasNoEffect) {
+  const struct {
+    int selected, button;
+    const char* question;
+    Steps prepare;
+  } cases[] = {
+      {2, kEdit, kAskRegister, [](ScriptFrontEnd& visit) { visit.Type(kNames, "x"); }},
+      {0, kEdit, kAskUpdate,
+       [this](ScriptFrontEnd& visit) { visit.Click(Swatch(2)).ChoosesColour(0x040302, 9u); }},
+      {0, kDelete, kAskDelete, [](ScriptFrontEnd&) {}},
+      {1, kDelete, kAskDelete, [](ScriptFrontEnd&) {}},
+  };
+  for (const auto& c : cases) {
+    SCOPED_TRACE(c.question);
+    PlayOnAFailingDisk({
+        folder,
+        kList,
+        [&](ScriptFrontEnd& visit) { c.prepare(visit.OpensDialog(177)); },
+        [&](ScriptFrontEnd& visit) { visit.Click(c.button).ShowsMessage(c.question, kOk); },
+        [&](ScriptFrontEnd& visit) { CallWith(visit.Escape(), c.selected); },
     });
-    visit.Click(id).ShowsMessage(question, kOk).Does([&](ControlSession& session) {
-      disk.reset();
-      ReadPaletteList(folder.Argument());
-      scenes.second = Look(session);
-      return "";
-    });
-    visit.Escape();
-    CallWith(visit, selected);
-    return scenes;
   }
-
-  // Each time the click has no effect at all, or the whole of it.
-  void ClickOnAFailingDisk(int selected, const Steps& prepare, int id, const char* question) {
-    FaultyFileSystem sound;
-    const Scene whole = Click(sound, selected, prepare, id, question).second;
-    int refusals = 0;
-    ForEachFault([&](FaultyFileSystem& files) {
-      const auto [old, scene] = Click(files, selected, prepare, id, question);
-      EXPECT_NE(old, whole);
-      EXPECT_TRUE(scene == old || scene == whole) << question;
-      refusals += scene == old ? 1 : 0;
-    });
-    EXPECT_GT(refusals, 4) << question;
-  }
-};
-
-TEST_F(FailingDiskTest, WhatTheDiskRefusesHasNoEffect) {
-  const auto nothing = [](ScriptFrontEnd&) {};
-  ClickOnAFailingDisk(
-      2, [](ScriptFrontEnd& visit) { visit.Type(kNames, "x"); }, kEdit, kAskRegister);
-  ClickOnAFailingDisk(
-      0, [this](ScriptFrontEnd& visit) { visit.Click(Swatch(2)).ChoosesColour(0x040302, 9u); },
-      kEdit, kAskUpdate);
-  ClickOnAFailingDisk(0, nothing, kDelete, kAskDelete);
-  ClickOnAFailingDisk(1, nothing, kDelete, kAskDelete);
 }
 
 TEST_F(PaletteTest, WithNothingPendingTheEditorOpensTheFileOfTheChosenRow) {
