@@ -118,11 +118,13 @@ TEST_F(MapsTest, MembersAreNamedByTheNextMinuteThatIsFree) {
   EXPECT_EQ(folder.Read(kList), Entry("x", "G04A0100.1R"));
 }
 
-TEST_F(MapsTest, AMapThatCannotBeReadBackIsNotStored) {
+TEST_F(MapsTest, AMapThatCannotBeReadBackIsNotStoredAndNoneIsNotDeleted) {
   const CString longest = std::string(199, 'x').c_str();
   for (const CString& line : {longest + "x", CString("a\nb"), CString("\n")}) {
     EXPECT_FALSE(RegisterMap(folder.Argument(), MapKind::kRoute, "x", {longest, line}));
   }
+  MasterList none;
+  EXPECT_FALSE(DeleteMap(ListPath(), none, 0, ListPath()));
   EXPECT_FALSE(RegisterMap(folder.Argument() + "none/", MapKind::kRoute, "x", {}));
   EXPECT_EQ(folder.Content(), Files());
   EXPECT_TRUE(RegisterMap(folder.Argument(), MapKind::kRoute, "x", {longest, ""}));

@@ -70,6 +70,7 @@ inline void PlayOnAFailingDisk(const Change& change) {
   int refusals = 0;
   ForEachFault([&](FaultyFileSystem& files) {
     change.folder.Lay(before);
+    files.longest_read = 32;  // a list may break off in its middle
     const auto [old, scene] = Play(change, files);
     EXPECT_FALSE(old == whole);
     EXPECT_TRUE(scene == old || scene == whole);
