@@ -41,14 +41,6 @@ TEST_F(AlbumRegistTest, StartsWithTheHostsPointAndReturnsItAsTheUserLeftIt) {
   EXPECT_EQ(folder.Read(kAlbum), std::nullopt);
 }
 
-TEST_F(AlbumRegistTest, EveryOtherEndReturnsTheFixedText) {
-  ScriptFrontEnd cancel, escape;
-  cancel.OpensDialog(148).Type(101, "p").Click(1047);
-  escape.OpensDialog(148).Escape();
-  EXPECT_EQ(CallWith(cancel, ""), kGivenUp);
-  EXPECT_EQ(CallWith(escape, ""), kGivenUp);
-}
-
 TEST_F(AlbumRegistTest, EachAdditionIsInTheFileAtOnce) {
   folder.Write(kAlbum, "an old album\r\nof two lines\r\n");
   script.Type(101, "鎌倉").Type(104, "i");
