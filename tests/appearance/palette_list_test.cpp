@@ -177,20 +177,5 @@ TEST_F(PaletteListTest, AChangeThatIsKilledIsMadeOrIsNot) {
   EXPECT_EQ(folder.Content(), after) << "once nothing was killed";
 }
 
-TEST_F(PaletteListTest, OnlyAListThatIsWholeCountsAsComplete) {
-  folder.Lay(Layout("a$Orbis1.plt\n\nb$Orbis2.plt\n", {}));
-  int incomplete = 0;
-  ForEachFault([&](FaultyFileSystem& files) {
-    const ScopedFileSystem scope(files);
-    const PaletteList list = ReadPaletteList(folder.Argument());
-    if (list.complete) {
-      EXPECT_EQ(list.entries.size(), 1u);
-      EXPECT_EQ(list.rest, "\nb$Orbis2.plt\n");
-    }
-    incomplete += list.complete ? 0 : 1;
-  });
-  EXPECT_GT(incomplete, 4);
-}
-
 }  // namespace
 }  // namespace orreryui

@@ -76,13 +76,10 @@ class PaletteTest : public testing::Test {
   }
 
   // The result in UTF-8.
-  std::string CallWith(ScriptFrontEnd& visit, int selected, const char* editor = "") {
+  std::string Call(ScriptFrontEnd& visit, int selected, const char* editor = "") {
     return ToUtf8(Play(visit, [&] {
       return OnMapPalleteSet(selected, editor, folder.Argument(), 0x777777, kLake, kBack);
     }));
-  }
-  std::string Call(int selected, const char* editor = "") {
-    return CallWith(script, selected, editor);
   }
 
   TestFolder folder;

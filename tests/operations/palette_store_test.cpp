@@ -19,7 +19,7 @@ TEST_F(PaletteTest, RegistersThePaletteOfTheNewEntry) {
   script.ShowsMessage(kAskRegister, kOk);
   script.ShowsRows(kNames, {"自然", "冬", "ー表|[ＡＢ"}).ShowsSelection(kNames, -1);
   script.Shows(kNames, "").Shows(kEdit, kNew).Click(1);
-  EXPECT_EQ(Call(2), "2|0|0|0|1|2|3|4|5|6|");
+  EXPECT_EQ(Call(script, 2), "2|0|0|0|1|2|3|4|5|6|");
   EXPECT_EQ(folder.Read(kList), List(2) + "ー表|[ＡＢ$Orbis3.plt\r\n"_sj);
   EXPECT_EQ(folder.Read("Orbis3.plt"), ";" + std::string("ー表|[ＡＢ"_sj) + "  " +
                                            folder.Path().string() + "/Orbis3.plt  \r\n" +
@@ -38,7 +38,7 @@ TEST_F(PaletteTest, ARegistrationAsksForANameThatIsNew) {
   script.ShowsMessage(kNameMissing, kCancel);
   script.Type(kNames, "冬").Click(kEdit).ShowsMessage(kAskRegister, kOk);
   script.ShowsMessage(kNameTaken, kOk).Shows(kNames, "冬").Escape();
-  Call(2);
+  Call(script, 2);
   EXPECT_EQ(folder.Read(kList), List(2));
   EXPECT_EQ(folder.Read("Orbis3.plt"), std::nullopt);
 }
@@ -52,7 +52,7 @@ TEST_F(PaletteTest, ANameThatTheListCannotHoldIsNotTaken) {
   // The list ends a name at its first $.
   script.Type(kNames, "a$b").Click(kEdit).ShowsMessage(kAskRegister, kOk);
   script.ShowsRows(kNames, {"自然", "冬", longest, "a"}).Click(1);
-  EXPECT_EQ(Call(2), "2|0|0|0|1|2|3|4|5|6|");
+  EXPECT_EQ(Call(script, 2), "2|0|0|0|1|2|3|4|5|6|");
   EXPECT_EQ(folder.Read(kList), List(2) + longest + "$Orbis3.plt\r\na$b$Orbis4.plt\r\n");
 }
 
@@ -73,7 +73,7 @@ TEST_F(PaletteTest, WhatOthersMadeOfTheListMeanwhileCounts) {
       .ShowsMessage(kAskDelete, kOk)
       .ShowsRows(kNames, {"自然", "冬", "other", "x"});
   script.Click(1).ShowsMessage("配色を更新しますか！", kCancel);
-  EXPECT_EQ(Call(2), "1|20|20|20|1|2|3|4|5|6|");
+  EXPECT_EQ(Call(script, 2), "1|20|20|20|1|2|3|4|5|6|");
   EXPECT_EQ(folder.Read(kList), list);
   EXPECT_EQ(folder.Read("Orbis2.plt"), Text(kWinter));
   EXPECT_EQ(folder.Read("Orbis3.plt"), "other");
@@ -85,7 +85,7 @@ TEST_F(PaletteTest, TheNineteenthPaletteIsTheLast) {
   script.Type(kNames, "nineteenth").Click(kEdit).ShowsMessage(kAskRegister, kOk);
   script.Type(kNames, "one more").Click(kEdit).ShowsMessage(kAskRegister, kOk);
   script.ShowsMessage(kListFull, kOk).Shows(kNames, "one more").Click(1);
-  EXPECT_EQ(Call(18), "18|0|0|0|1|2|3|4|5|6|");
+  EXPECT_EQ(Call(script, 18), "18|0|0|0|1|2|3|4|5|6|");
   EXPECT_EQ(folder.Read(kList), List(18) + "nineteenth$Orbis19.plt\r\n");
 }
 
@@ -94,7 +94,7 @@ TEST_F(PaletteTest, AnUpdateReplacesTheFileOnceItIsConfirmed) {
   script.ShowsMessage(kAskUpdate, kCancel).Click(kEdit).ShowsMessage(kAskUpdate, kOk);
   // What was written can be written again, and OK has nothing to ask.
   script.Click(kEdit).ShowsMessage(kAskUpdate, kCancel).Click(1);
-  EXPECT_EQ(Call(0), "0|10|10|10|1|2|3|4|5|6|");
+  EXPECT_EQ(Call(script, 0), "0|10|10|10|1|2|3|4|5|6|");
   EXPECT_EQ(folder.Read("Orbis1.plt"), ";" + std::string("自然"_sj) + "  " +
                                            folder.Path().string() + "/Orbis1.plt  \r\n" +
                                            "   0  10  10  10    青（海域）  1:15\r\n"_sj +
@@ -122,7 +122,7 @@ TEST_F(PaletteTest, OkStaysUntilTheDiskTakesWhatIsPending) {
       folder.Write(c.missing, bytes);
     }));
     visit.Click(1).ShowsMessage(c.question, kOk).ShowsMessage(c.confirmation, kOk);
-    EXPECT_NE(CallWith(visit, c.selected), "");
+    EXPECT_NE(Call(visit, c.selected), "");
     const std::string text = folder.Read(c.written).value_or("");
     EXPECT_NE(text.find(" 100   9   0   0"), std::string::npos) << text;
   }
@@ -150,7 +150,7 @@ TEST_F(PaletteTest, ADeletionRenumbersAndStaysAfterCancel) {
   script.Click(kDelete).ShowsMessage(kAskDelete, kOk).ShowsRows(kNames, {"冬", kNew});
   script.ShowsSelection(kNames, -1).Shows(kNames, "").Shows(kNote, "配色の登録数=2");
   script.Does(ShowsSwatches(kSlots, Colours(kNatural))).Escape();
-  EXPECT_EQ(Call(0), "");
+  EXPECT_EQ(Call(script, 0), "");
   EXPECT_EQ(folder.Read(kList), std::string("冬$Orbis1.plt\r\n"_sj));
   EXPECT_EQ(folder.Read("Orbis1.plt"), Text(kWinter));
   EXPECT_EQ(folder.Read("Orbis2.plt"), std::nullopt);
@@ -160,7 +160,7 @@ TEST_F(PaletteTest, AfterADeletionTheNumberNamesThePaletteBehind) {
   script.Click(kDelete).ShowsMessage(kAskDelete, kOk).Pick(kNames, 1).Click(kDelete);
   script.Pick(kNames, 0).Does(ShowsSwatches(kSlots, Colours(kWinter)));
   script.Click(kDelete).ShowsMessage(kAskDelete, kOk).ShowsRows(kNames, {kNew}).Click(1);
-  EXPECT_EQ(Call(0), "0|20|20|20|1|2|3|4|5|6|");
+  EXPECT_EQ(Call(script, 0), "0|20|20|20|1|2|3|4|5|6|");
   EXPECT_EQ(folder.Read(kList), "");
 }
 
@@ -168,7 +168,7 @@ TEST_F(PaletteTest, ADeletionDropsAChangeAndLeavesTheColoursToThePaletteBehind) 
   script.Click(Swatch(2)).ChoosesColour(0x040302, 9u);
   script.Click(kDelete).ShowsMessage(kAskDelete, kOk).Click(kEdit);
   script.ShowsMessage(kAskUpdate, kCancel).Click(1);
-  EXPECT_EQ(Call(0), "0|10|10|10|1|2|3|4|5|6|");
+  EXPECT_EQ(Call(script, 0), "0|10|10|10|1|2|3|4|5|6|");
   EXPECT_EQ(folder.Read("Orbis1.plt"), Text(kWinter));
 }
 
@@ -184,7 +184,7 @@ TEST_F(PaletteTest, ADeletionMakesRoomForTheNewEntry) {
     ScriptFrontEnd visit;
     visit.OpensDialog(177).Click(kDelete).ShowsMessage(kAskDelete, kOk).ShowsRows(kNames, rows);
     visit.Escape();
-    CallWith(visit, 1);
+    Call(visit, 1);
   }
 }
 
@@ -207,7 +207,7 @@ TEST_F(PaletteTest, WhatTheDiskRefusesHasNoEffect) {
         kList,
         [&](ScriptFrontEnd& visit) { c.prepare(visit.OpensDialog(177)); },
         [&](ScriptFrontEnd& visit) { visit.Click(c.button).ShowsMessage(c.question, kOk); },
-        [&](ScriptFrontEnd& visit) { CallWith(visit.Escape(), c.selected); },
+        [&](ScriptFrontEnd& visit) { Call(visit.Escape(), c.selected); },
     });
   }
 }
@@ -219,7 +219,7 @@ TEST_F(PaletteTest, WithNothingPendingTheEditorOpensTheFileOfTheChosenRow) {
   script.Click(kEdit).Click(Swatch(11)).ChoosesColour(9, kLake);
   script.Does(ShowsSwatches(kSlots, Colours(kWinter))).Pick(kNames, 1);
   script.Does(ShowsSwatches(kSlots, Colours({{2, 0x070707}}))).Click(1);
-  EXPECT_EQ(Call(0, program.c_str()), "1|0|0|0|1|2|3|4|5|6|");
+  EXPECT_EQ(Call(script, 0, program.c_str()), "1|0|0|0|1|2|3|4|5|6|");
   EXPECT_EQ(folder.Read("Orbis2.plt"), " 100   7   7   7\n");
 }
 

@@ -188,7 +188,7 @@ TEST_F(StoredMapsTest, AMapShowsItsPointsAndAPointItsFields) {
       {{kRoutes, ";c\r\n\r\n" + Entry("一|", "1") + "\r\nno at\r\nempty@\r\n;c\r\n" +
                      Entry("none", "none") + Entry("many", "many") + Entry("nil", "nil")},
        {"1", std::string("鎌倉 35.3 139.5 寺 a.jpg a.txt\r\n;b 1 2 i f\r\nM\r\n\r\n999\r\n"_sj)},
-       {"many", Points(100)},
+       {"many", std::string(199, 'x') + "y\r\n" + Points(100)},
        {"nil", ""}});
   const std::string editor = folder.WriteProgram("editor", "touch \"$0.trace\"");
   ScriptFrontEnd visit;
@@ -200,7 +200,8 @@ TEST_F(StoredMapsTest, AMapShowsItsPointsAndAPointItsFields) {
   visit.Shows(1080, "").Shows(1084, "999").Type(1080, "dropped").Type(1089, "dropped");
   // Without a path the points stay.
   visit.Pick(1089, 2).Shows(1092, "3/6").Shows(131, "4/4").Shows(1084, "999").Click(1090);
-  visit.Pick(1089, 4).Shows(131, "99件").Pick(1086, 98).Shows(131, "99/99").Shows(1080, "p99");
+  visit.Pick(1089, 4).Shows(131, "99件").Pick(1086, 1).Shows(1084, "y");
+  visit.Pick(1086, 98).Shows(131, "99/99").Shows(1080, "p97");
   for (const int row : {1, 3, 5}) {
     visit.Pick(1089, row).ShowsRows(1086, {}).Shows(131, "0件").Shows(1080, "").Shows(1081, "");
   }

@@ -139,27 +139,20 @@ TEST_F(ViewersTest, TheTextViewShowsCaptionAndPathAndDropsWhatIsTyped) {
 }
 
 TEST_F(ViewersTest, TheMemoOpensWhereTheCallerWantsIt) {
-  struct Place {
-    int left;
-    Placement placement;
-    int x;
-    int y;
-  };
-  const Place places[] = {{1, Placement::kAtPixel, 1, 560},
-                          {700, Placement::kAtPixel, 700, 560},
-                          {0, Placement::kAtPosition, 5, 267},
-                          {-5, Placement::kAtPosition, 5, 267}};
-  for (const Place& place : places) {
+  const std::tuple<int, Placement, int, int> cases[] = {{1, Placement::kAtPixel, 1, 560},
+                                                        {700, Placement::kAtPixel, 700, 560},
+                                                        {0, Placement::kAtPosition, 5, 267},
+                                                        {-5, Placement::kAtPosition, 5, 267}};
+  for (const auto& [left, placement, x, y] : cases) {
+    const std::tuple place(placement, x, y);
     ScriptFrontEnd script;
     script.OpensDialog(133).ShowsTitle("    メモ（連絡先／画像説明）").Shows(102, "no\\such");
     script.Does([place](ControlSession& session) {
       const DialogLayout layout = session.Layout();
-      const bool right =
-          layout.placement == place.placement && layout.x == place.x && layout.y == place.y;
-      return right ? "" : "wrong place";
+      return place == std::tuple(layout.placement, layout.x, layout.y) ? "" : "wrong place";
     });
     script.Type(101, "typed").Click(1);
-    Play(script, [&] { OnMemoDisplay(0, place.left, "no\\such", "text"); });
+    Play(script, [&, left = left] { OnMemoDisplay(0, left, "no\\such", "text"); });
   }
 }
 

@@ -1,11 +1,10 @@
-// What an album file holds after each write, and which lines of files of points a reader gets.
+// What an album file holds after each write, and which lines a reader gets.
 #include "points/album_file.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include "platform/strings/japanese_literal.h"
-#include "points/point_file.h"
 #include "tests/support/test_folder.h"
 
 namespace orreryui {
@@ -98,18 +97,6 @@ TEST_F(AlbumFileTest, NinetyNineLinesAreRead) {
   }
   const auto lines = LinesOf("\r\n" + Lines(1, 50) + ";\r\n\r\nM\r\n" + Lines(51, 100));
   EXPECT_EQ(lines.size(), 99u) << "a line without data counts for none";
-}
-
-TEST_F(AlbumFileTest, TheLinesOfAMapAreAllPoints) {
-  folder.Write(kAlbum, "a 1 2 i f\r\n\r\n;c\nMt\r\n999\n \nb");
-  EXPECT_THAT(ReadAlbumPoints(Path()), ElementsAre(CString("a#i@f$1$2")));
-  EXPECT_THAT(ReadPointFile(Path()),
-              ElementsAre("a#i@f$1$2", "#@;c$$", "#@Mt$$", "#@999$$", "#@$$", "#@b$$"));
-  folder.Write(kAlbum, std::string(199, 'x') + "y\r\n" + Lines(1, 100));
-  EXPECT_EQ(ReadPointFile(Path()).size(), 99u);
-  EXPECT_EQ(ReadPointFile(Path())[1], CString("#@y$$"));
-  EXPECT_EQ(ReadPointFile(Path())[98], CString("p97#i@f.txt$1$2"));
-  EXPECT_THAT(ReadPointFile(folder.Argument()), IsEmpty());
 }
 
 }  // namespace
