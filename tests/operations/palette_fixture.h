@@ -3,6 +3,7 @@
 #define ORRERYUI_TESTS_OPERATIONS_PALETTE_FIXTURE_H_
 
 #include <orreryui/orreryui.h>
+#include <cstdio>
 #include <map>
 
 #include "tests/operations/swatches.h"
@@ -22,6 +23,9 @@ class PaletteTest : public testing::Test {
   static constexpr int kLake = 0x030201;
   static constexpr int kBack = 0x060504;
   static constexpr char kList[] = "PLTTFILE.DAT";
+  static constexpr char kAskOld[] = "配色を更新しますか！";
+  static constexpr char kAskNew[] = "配色を登録しますか！";
+  static constexpr char kAskUpdate[] = "現在選択中の配色を更新します！";
   static constexpr char kNew[] = "新規登録";
   static constexpr char kHint[] = "中間の標高を無視する時は黒色を指定してください！";
 

@@ -11,7 +11,6 @@ constexpr char kAskRegister[] = "新規に配色を登録します！";
 constexpr char kNameMissing[] = "配色の名称を入力してください！";
 constexpr char kNameTaken[] = "配色の名称を新規に入力してください！";
 constexpr char kListFull[] = "配色は許容限度(20)まで登録されています！";
-constexpr char kAskUpdate[] = "現在選択中の配色を更新します！";
 constexpr char kAskDelete[] = "現在選択中の配色を削除します！";
 
 TEST_F(PaletteTest, RegistersThePaletteOfTheNewEntry) {
@@ -72,7 +71,7 @@ TEST_F(PaletteTest, WhatOthersMadeOfTheListMeanwhileCounts) {
   script.Click(kDelete)
       .ShowsMessage(kAskDelete, kOk)
       .ShowsRows(kNames, {"自然", "冬", "other", "x"});
-  script.Click(1).ShowsMessage("配色を更新しますか！", kCancel);
+  script.Click(1).ShowsMessage(kAskOld, kCancel);
   EXPECT_EQ(Call(script, 2), "1|20|20|20|1|2|3|4|5|6|");
   EXPECT_EQ(folder.Read(kList), list);
   EXPECT_EQ(folder.Read("Orbis2.plt"), Text(kWinter));
@@ -108,8 +107,8 @@ TEST_F(PaletteTest, OkStaysUntilTheDiskTakesWhatIsPending) {
     std::uint32_t colour;
     const char *missing, *question, *confirmation, *written;
   } cases[] = {
-      {0, 0x040302, "Orbis1.plt", "配色を更新しますか！", kAskUpdate, "Orbis1.plt"},
-      {2, 0, kList, "配色を登録しますか！", kAskRegister, "Orbis3.plt"},
+      {0, 0x040302, "Orbis1.plt", kAskOld, kAskUpdate, "Orbis1.plt"},
+      {2, 0, kList, kAskNew, kAskRegister, "Orbis3.plt"},
   };
   for (const auto& c : cases) {
     const std::string bytes = folder.Read(c.missing).value();

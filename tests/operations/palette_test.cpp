@@ -60,10 +60,9 @@ TEST_F(PaletteTest, LakesAndBackgroundGoToTheResultAndNotToTheFile) {
   script.Click(Swatch(13)).ChoosesColour(kBack, 0xFFFFFF).Pick(kNames, 1).Click(1);
   EXPECT_EQ(Call(script, 0), "1|20|20|20|10|11|12|255|255|255|");
   EXPECT_EQ(folder.Read("Orbis1.plt"), Text(kNatural));
-}
-
-TEST_F(PaletteTest, TheNewEntryChoosesLakesAndBackgroundFromBlack) {
-  script.Click(Swatch(11)).ChoosesColour(0, 0x0C0B0A).Click(Swatch(13)).ChoosesColour(0, 7u);
+  // The new entry's start from black.
+  script.OpensDialog(177).Click(Swatch(11)).ChoosesColour(0, 0x0C0B0A);
+  script.Click(Swatch(13)).ChoosesColour(0, 7u);
   script.Click(Swatch(11)).ChoosesColour(0x0C0B0A, std::nullopt).Click(1);
   EXPECT_EQ(Call(script, 2), "2|0|0|0|10|11|12|7|0|0|");
 }
@@ -75,17 +74,14 @@ TEST_F(PaletteTest, EachSwatchOfAnElevationIsSavedInItsRow) {
     colours[slot] = 0x010203u * static_cast<unsigned>(slot);
     script.Click(Swatch(place)).ChoosesColour(Colours(kNatural)[place - 1].value(), colours[slot]);
   }
-  script.Click(1).ShowsMessage("配色を更新しますか！", kOk);
-  script.ShowsMessage("現在選択中の配色を更新します！", kOk);
+  script.Click(1).ShowsMessage(kAskOld, kOk);
+  script.ShowsMessage(kAskUpdate, kOk);
   Call(script, 0);
   script.OpensDialog(177).Does(ShowsSwatches(kSlots, Colours(colours))).Escape();
   Call(script, 0);
 }
 
 TEST_F(PaletteTest, OkAsksAboutTheChosenRowIfAChangeIsPending) {
-  constexpr char kAskOld[] = "配色を更新しますか！";
-  constexpr char kAskNew[] = "配色を登録しますか！";
-  constexpr char kAskUpdate[] = "現在選択中の配色を更新します！";
   constexpr char kUnchanged[] = "0|10|10|10|1|2|3|4|5|6|";
   auto changed = kNatural;
   changed[2] = 9;
@@ -135,7 +131,7 @@ TEST_F(PaletteTest, TheNewEntryKeepsColoursOfItsOwn) {
   colours[1] = 0x445566;
   script.Does(ShowsSwatches(kSlots, Colours(colours)));
   script.Click(kCheck).Does(ShowsSwatches(kSlots, Colours({}))).Click(1);
-  script.ShowsMessage("配色を登録しますか！", kCancel);
+  script.ShowsMessage(kAskNew, kCancel);
   EXPECT_EQ(Call(script, 2), "2|0|0|0|1|2|3|4|5|6|");
   EXPECT_EQ(folder.Read(kList), List(2));
 }

@@ -123,11 +123,11 @@ TEST_F(MapsTest, AMapThatCannotBeReadBackIsNotStoredAndNoneIsNotDeleted) {
   for (const CString& line : {longest + "x", CString("a\nb"), CString("\n")}) {
     EXPECT_FALSE(RegisterMap(folder.Argument(), MapKind::kRoute, "x", {longest, line}));
   }
-  MasterList none;
-  EXPECT_FALSE(DeleteMap(ListPath(), none, 0, ListPath()));
   EXPECT_FALSE(RegisterMap(folder.Argument() + "none/", MapKind::kRoute, "x", {}));
   EXPECT_EQ(folder.Content(), Files());
   EXPECT_TRUE(RegisterMap(folder.Argument(), MapKind::kRoute, "x", {longest, ""}));
+  MasterList none;
+  EXPECT_FALSE(DeleteMap(ListPath(), none, 0, folder.PathOf(kMember).c_str()));
 }
 
 TEST_F(MapsTest, AKillLeavesTheMapWholeOrGoneWhole) {
