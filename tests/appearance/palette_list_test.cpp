@@ -91,59 +91,39 @@ TEST_F(PaletteListTest, AddsBehindTheEntriesAndNeedsTheList) {
 TEST_F(PaletteListTest, RemovesOneFileAndRenumbersThoseBehindIt) {
   std::string lines;
   for (int i = 5; i <= 30; ++i) lines += "n$f" + std::to_string(i) + "\r\n";
-  const struct {
-    std::string list;
-    std::vector<std::string> files;
-    std::size_t number;
-    std::string list_after;
-    Files after;  // beside the list
-  } cases[] = {
-      // The second of four.
-      {"a$Orbis1.plt\nb$Orbis2.plt\nc$ORBIS3.PLT\nd$Orbis4.plt\n",
-       {"Orbis1.plt", "Orbis2.plt", "Orbis3.plt", "orbis4.plt"},
-       1,
-       "a$Orbis1.plt\r\nc$Orbis2.plt\r\nd$Orbis3.plt\r\n",
-       {{"Orbis1.plt", "Orbis1.plt"}, {"Orbis2.plt", "Orbis3.plt"}, {"Orbis3.plt", "orbis4.plt"}}},
-      // Files of the user's own names, and one that is missing.
-      {"a$own\nb$Orbis2.plt\nc$other\nd$Orbis4.plt\ne$Orbis5.plt\n",
-       {"own", "Orbis2.plt", "other", "Orbis5.plt"},
-       0,
-       "b$Orbis1.plt\r\nc$other\r\nd$Orbis3.plt\r\ne$Orbis4.plt\r\n",
-       {{"Orbis1.plt", "Orbis2.plt"}, {"other", "other"}, {"Orbis4.plt", "Orbis5.plt"}}},
-      // Two entries with one file.
-      {"a$Orbis1.plt\nb$orbis1.plt\nc$Orbis3.plt\n",
-       {"Orbis1.plt", "Orbis3.plt"},
-       0,
-       "b$orbis1.plt\r\nc$Orbis2.plt\r\n",
-       {{"Orbis1.plt", "Orbis1.plt"}, {"Orbis2.plt", "Orbis3.plt"}}},
-      // A name that a file outside the list bears.
-      {"a$own\nb$Orbis2.plt\n",
-       {"own", "Orbis1.plt", "Orbis2.plt"},
-       0,
-       "b$Orbis2.plt\r\n",
-       {{"Orbis1.plt", "Orbis1.plt"}, {"Orbis2.plt", "Orbis2.plt"}}},
-      // A file that a line behind the empty line names.
-      {"a$Orbis1.plt\n\nz$orbis1.plt\n",
-       {"Orbis1.plt"},
-       0,
-       "\nz$orbis1.plt\n",
-       {{"Orbis1.plt", "Orbis1.plt"}}},
-      // A missing file of a name that another entry keeps.
-      {"a$\nb$Orbis1.plt\nc$Orbis3.plt\n",
-       {"Orbis3.plt"},
-       0,
-       "b$Orbis1.plt\r\nc$Orbis2.plt\r\n",
-       {{"Orbis2.plt", "Orbis3.plt"}}},
-      // Lines behind the twentieth.
-      {"n$f1\nn$f2\nn$f3\nn$f4\n" + lines, {"f2"}, 1, "n$f1\r\nn$f3\r\nn$f4\r\n" + lines, {}},
+  const auto removes = [this](const std::string& list, const std::vector<std::string>& files,
+                              std::size_t number, const std::string& list_after, Files after) {
+    folder.Lay(Layout(list, files));
+    EXPECT_TRUE(Remove(number)) << list;
+    after[kList] = list_after;
+    EXPECT_EQ(folder.Content(), after) << list;
   };
-  for (const auto& c : cases) {
-    folder.Lay(Layout(c.list, c.files));
-    EXPECT_TRUE(Remove(c.number)) << c.list;
-    Files after = c.after;
-    after[kList] = c.list_after;
-    EXPECT_EQ(folder.Content(), after) << c.list;
-  }
+  // The second of four.
+  removes(
+      "a$Orbis1.plt\nb$Orbis2.plt\nc$ORBIS3.PLT\nd$Orbis4.plt\n",
+      {"Orbis1.plt", "Orbis2.plt", "Orbis3.plt", "orbis4.plt"}, 1,
+      "a$Orbis1.plt\r\nc$Orbis2.plt\r\nd$Orbis3.plt\r\n",
+      {{"Orbis1.plt", "Orbis1.plt"}, {"Orbis2.plt", "Orbis3.plt"}, {"Orbis3.plt", "orbis4.plt"}});
+  // Files of the user's own names, and one that is missing.
+  removes("a$own\nb$Orbis2.plt\nc$other\nd$Orbis4.plt\ne$Orbis5.plt\n",
+          {"own", "Orbis2.plt", "other", "Orbis5.plt"}, 0,
+          "b$Orbis1.plt\r\nc$other\r\nd$Orbis3.plt\r\ne$Orbis4.plt\r\n",
+          {{"Orbis1.plt", "Orbis2.plt"}, {"other", "other"}, {"Orbis4.plt", "Orbis5.plt"}});
+  // Two entries with one file.
+  removes("a$Orbis1.plt\nb$orbis1.plt\nc$Orbis3.plt\n", {"Orbis1.plt", "Orbis3.plt"}, 0,
+          "b$orbis1.plt\r\nc$Orbis2.plt\r\n",
+          {{"Orbis1.plt", "Orbis1.plt"}, {"Orbis2.plt", "Orbis3.plt"}});
+  // A name that a file outside the list bears.
+  removes("a$own\nb$Orbis2.plt\n", {"own", "Orbis1.plt", "Orbis2.plt"}, 0, "b$Orbis2.plt\r\n",
+          {{"Orbis1.plt", "Orbis1.plt"}, {"Orbis2.plt", "Orbis2.plt"}});
+  // A file that a line behind the empty line names.
+  removes("a$Orbis1.plt\n\nz$orbis1.plt\n", {"Orbis1.plt"}, 0, "\nz$orbis1.plt\n",
+          {{"Orbis1.plt", "Orbis1.plt"}});
+  // A missing file of a name that another entry keeps.
+  removes("a$\nb$Orbis1.plt\nc$Orbis3.plt\n", {"Orbis3.plt"}, 0, "b$Orbis1.plt\r\nc$Orbis2.plt\r\n",
+          {{"Orbis2.plt", "Orbis3.plt"}});
+  // Lines behind the twentieth.
+  removes("n$f1\nn$f2\nn$f3\nn$f4\n" + lines, {"f2"}, 1, "n$f1\r\nn$f3\r\nn$f4\r\n" + lines, {});
 }
 
 TEST_F(PaletteListTest, ARemovalStartsFromTheListAsItIsByThen) {

@@ -140,17 +140,14 @@ TEST_F(AlbumRegistTest, ThePreviewShowsTheFileThatTheFieldHolds) {
 TEST_F(AlbumRegistTest, AnAdditionThatCannotBeWrittenChangesNothing) {
   script.Escape();
   Call(script);
-  PlayOnAFailingDisk({
-      folder,
-      kAlbum,
-      [](ScriptFrontEnd& visit) {
-        visit.OpensDialog(148).Type(101, "p");
-        for (int i = 0; i < 2; ++i) Fill(visit, "m", "n", "t", "").Click(117);
-        Fill(visit, "m", "n", "t", "");
-      },
-      [](ScriptFrontEnd& visit) { visit.Click(117); },
-      [this](ScriptFrontEnd& visit) { Call(visit.Escape()); },
-  });
+  PlayOnAFailingDisk({folder, kAlbum,
+                      [](ScriptFrontEnd& visit) {
+                        visit.OpensDialog(148).Type(101, "p");
+                        for (int i = 0; i < 2; ++i) Fill(visit, "m", "n", "t", "").Click(117);
+                        Fill(visit, "m", "n", "t", "");
+                      },
+                      [](ScriptFrontEnd& visit) { visit.Click(117); },
+                      [this](ScriptFrontEnd& visit) { Call(visit.Escape()); }});
 }
 
 }  // namespace

@@ -201,13 +201,10 @@ TEST_F(PaletteTest, WhatTheDiskRefusesHasNoEffect) {
   };
   for (const auto& c : cases) {
     SCOPED_TRACE(c.question);
-    PlayOnAFailingDisk({
-        folder,
-        kList,
-        [&](ScriptFrontEnd& visit) { c.prepare(visit.OpensDialog(177)); },
-        [&](ScriptFrontEnd& visit) { visit.Click(c.button).ShowsMessage(c.question, kOk); },
-        [&](ScriptFrontEnd& visit) { Call(visit.Escape(), c.selected); },
-    });
+    PlayOnAFailingDisk(
+        {folder, kList, [&](ScriptFrontEnd& visit) { c.prepare(visit.OpensDialog(177)); },
+         [&](ScriptFrontEnd& visit) { visit.Click(c.button).ShowsMessage(c.question, kOk); },
+         [&](ScriptFrontEnd& visit) { Call(visit.Escape(), c.selected); }});
   }
 }
 

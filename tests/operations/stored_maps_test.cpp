@@ -269,23 +269,17 @@ TEST_F(StoredMapsTest, AListBecomesAMapThatIsFoundEditedRenamedAndDeleted) {
 TEST_F(StoredMapsTest, AChangeThatFailsIsARefusedClick) {
   folder.Lay({{kRoutes, ";c\r\n" + Entry("x", "1") + Entry("y", "2")}, {"1", "a"}});
   for (const int button : {1079, 1081}) {
-    PlayOnAFailingDisk({
-        folder,
-        kRoutes,
-        [](ScriptFrontEnd& visit) {
-          visit.OpensDialog(157).Click(1091).OpensDialog(156).Pick(1078, 0).Type(1080, "new");
-        },
-        [button](ScriptFrontEnd& visit) { visit.Click(button); },
-        [this](ScriptFrontEnd& visit) { Select(visit.Escape().Escape()); },
-    });
+    PlayOnAFailingDisk({folder, kRoutes,
+                        [](ScriptFrontEnd& visit) {
+                          visit.OpensDialog(157).Click(1091).OpensDialog(156).Pick(1078, 0).Type(
+                              1080, "new");
+                        },
+                        [button](ScriptFrontEnd& visit) { visit.Click(button); },
+                        [this](ScriptFrontEnd& visit) { Select(visit.Escape().Escape()); }});
   }
-  PlayOnAFailingDisk({
-      folder,
-      kRoutes,
-      [](ScriptFrontEnd& visit) { visit.OpensDialog(149); },
-      [](ScriptFrontEnd& visit) { visit.Click(1062).OpensDialog(153).Click(1); },
-      [this](ScriptFrontEnd& visit) { Register(visit.Escape(), Points(1, "|")); },
-  });
+  PlayOnAFailingDisk({folder, kRoutes, [](ScriptFrontEnd& visit) { visit.OpensDialog(149); },
+                      [](ScriptFrontEnd& visit) { visit.Click(1062).OpensDialog(153).Click(1); },
+                      [this](ScriptFrontEnd& visit) { Register(visit.Escape(), Points(1, "|")); }});
 }
 
 }  // namespace
