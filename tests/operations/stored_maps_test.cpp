@@ -271,8 +271,8 @@ TEST_F(StoredMapsTest, AChangeThatFailsIsARefusedClick) {
   for (const int button : {1079, 1081}) {
     PlayOnAFailingDisk({folder, kRoutes,
                         [](ScriptFrontEnd& visit) {
-                          visit.OpensDialog(157).Click(1091).OpensDialog(156).Pick(1078, 0).Type(
-                              1080, "new");
+                          visit.OpensDialog(157).Click(1091).OpensDialog(156);
+                          visit.Pick(1078, 0).Type(1080, "new");
                         },
                         [button](ScriptFrontEnd& visit) { visit.Click(button); },
                         [this](ScriptFrontEnd& visit) { Select(visit.Escape().Escape()); }});
