@@ -34,38 +34,26 @@ class PaletteListTest : public testing::Test {
   TestFolder folder;
 };
 
-TEST_F(PaletteListTest, SplitsLinesAtTheFirstDollarThatIsACharacter) {
+TEST_F(PaletteListTest, SplitsLinesAtTheFirstDollarThatIsACharacterAndKeepsTheRest) {
   const std::string full(98, 'n');
-  const std::pair<std::string, std::string> cases[] = {
-      {"", ""},
-      {"\r\na$b\r\n", ""},
-      {";a$b\nc$d$e", "<;a|b><c|d$e>"},
-      {"no dollar\r\n$f\r\nn$\r\n\r\nx$y\r\n", "<|no dollar><|f><n|>"},
-      {std::string("ー構　$b\r\n表|[＠$ｱ\r\n"_sj), std::string("<ー構　|b><表|[＠|ｱ>"_sj)},
-      {full + "\r\n" + full + "$f", "<|" + full + "><|" + full + "><|f>"},
+  std::string lines, entries;
+  for (int i = 0; i < 20; ++i) lines += "n$f\n", entries += "<n|f>";
+  const struct {
+    std::string list, entries, rest;
+  } cases[] = {
+      {"", "", ""},
+      {"\r\na$b\r\n", "", "\r\na$b\r\n"},
+      {";a$b\nc$d$e", "<;a|b><c|d$e>", ""},
+      {"no dollar\r\n$f\r\nn$\r\n\r\nx$y\r\n", "<|no dollar><|f><n|>", "\r\nx$y\r\n"},
+      {"ー構　$b\r\n表|[＠$ｱ\r\n"_sj, "<ー構　|b><表|[＠|ｱ>"_sj, ""},
+      {full + "\r\n" + full + "$f", "<|" + full + "><|" + full + "><|f>", ""},
+      {lines + lines, entries, lines},
+      {lines, entries, ""},
   };
-  for (const auto& [list, expected] : cases) {
-    folder.Write(kList, list);
-    EXPECT_EQ(Names(), expected) << list;
-  }
-}
-
-TEST_F(PaletteListTest, KeepsWhatStandsBehindItsEntries) {
-  std::string lines;
-  for (int i = 0; i < 500; ++i) lines += "n$f\n";
-  const std::tuple<std::string, std::size_t, std::string> cases[] = {
-      {"a$b\r\n", 1u, ""},
-      {"a$b\n\n", 1u, "\n"},
-      {"a$b\n\r\nc$d\n", 1u, "\r\nc$d\n"},
-      {lines, 20u, lines.substr(20 * 4)},
-      {lines.substr(0, 20 * 4), 20u, ""},
-  };
-  for (const auto& [list, count, rest] : cases) {
-    folder.Write(kList, list);
-    const PaletteList read = ReadPaletteList(folder.Argument());
-    EXPECT_EQ(read.entries.size(), count) << list;
-    EXPECT_EQ(read.rest, rest) << list;
-    EXPECT_TRUE(read.complete);
+  for (const auto& c : cases) {
+    folder.Write(kList, c.list);
+    EXPECT_EQ(Names(), c.entries) << c.list;
+    EXPECT_EQ(ReadPaletteList(folder.Argument()).rest, c.rest) << c.list;
   }
 }
 
@@ -103,64 +91,39 @@ TEST_F(PaletteListTest, AddsBehindTheEntriesAndNeedsTheList) {
 TEST_F(PaletteListTest, RemovesOneFileAndRenumbersThoseBehindIt) {
   std::string lines;
   for (int i = 5; i <= 30; ++i) lines += "n$f" + std::to_string(i) + "\r\n";
-  const struct {
-    const char* what;
-    std::string list;
-    std::vector<std::string> files;
-    std::size_t number;
-    std::string list_after;
-    Files after;  // beside the list
-  } cases[] = {
-      {"the second of four",
-       "a$Orbis1.plt\nb$Orbis2.plt\nc$ORBIS3.PLT\nd$Orbis4.plt\n",
-       {"Orbis1.plt", "Orbis2.plt", "Orbis3.plt", "orbis4.plt"},
-       1,
-       "a$Orbis1.plt\r\nc$Orbis2.plt\r\nd$Orbis3.plt\r\n",
-       {{"Orbis1.plt", "Orbis1.plt"}, {"Orbis2.plt", "Orbis3.plt"}, {"Orbis3.plt", "orbis4.plt"}}},
-      {"files of the user's own names, and one that is missing",
-       "a$own\nb$Orbis2.plt\nc$other\nd$Orbis4.plt\ne$Orbis5.plt\n",
-       {"own", "Orbis2.plt", "other", "Orbis5.plt"},
-       0,
-       "b$Orbis1.plt\r\nc$other\r\nd$Orbis3.plt\r\ne$Orbis4.plt\r\n",
-       {{"Orbis1.plt", "Orbis2.plt"}, {"other", "other"}, {"Orbis4.plt", "Orbis5.plt"}}},
-      {"two entries with one file",
-       "a$Orbis1.plt\nb$orbis1.plt\nc$Orbis3.plt\n",
-       {"Orbis1.plt", "Orbis3.plt"},
-       0,
-       "b$orbis1.plt\r\nc$Orbis2.plt\r\n",
-       {{"Orbis1.plt", "Orbis1.plt"}, {"Orbis2.plt", "Orbis3.plt"}}},
-      {"a name that a file outside the list bears",
-       "a$own\nb$Orbis2.plt\n",
-       {"own", "Orbis1.plt", "Orbis2.plt"},
-       0,
-       "b$Orbis2.plt\r\n",
-       {{"Orbis1.plt", "Orbis1.plt"}, {"Orbis2.plt", "Orbis2.plt"}}},
-      {"a file that a line behind the empty line names",
-       "a$Orbis1.plt\n\nz$orbis1.plt\n",
-       {"Orbis1.plt"},
-       0,
-       "\nz$orbis1.plt\n",
-       {{"Orbis1.plt", "Orbis1.plt"}}},
-      {"a missing file of a name that another entry keeps",
-       "a$\nb$Orbis1.plt\nc$Orbis3.plt\n",
-       {"Orbis3.plt"},
-       0,
-       "b$Orbis1.plt\r\nc$Orbis2.plt\r\n",
-       {{"Orbis2.plt", "Orbis3.plt"}}},
-      {"lines behind the twentieth",
-       "n$f1\nn$f2\nn$f3\nn$f4\n" + lines,
-       {"f2"},
-       1,
-       "n$f1\r\nn$f3\r\nn$f4\r\n" + lines,
-       {}},
+  const auto removes = [this](const std::string& list, const std::vector<std::string>& files,
+                              std::size_t number, const std::string& list_after, Files after) {
+    folder.Lay(Layout(list, files));
+    EXPECT_TRUE(Remove(number)) << list;
+    after[kList] = list_after;
+    EXPECT_EQ(folder.Content(), after) << list;
   };
-  for (const auto& c : cases) {
-    folder.Lay(Layout(c.list, c.files));
-    EXPECT_TRUE(Remove(c.number)) << c.what;
-    Files after = c.after;
-    after[kList] = c.list_after;
-    EXPECT_EQ(folder.Content(), after) << c.what;
-  }
+  // The second of four.
+  removes(
+      "a$Orbis1.plt\nb$Orbis2.plt\nc$ORBIS3.PLT\nd$Orbis4.plt\n",
+      {"Orbis1.plt", "Orbis2.plt", "Orbis3.plt", "orbis4.plt"}, 1,
+      "a$Orbis1.plt\r\nc$Orbis2.plt\r\nd$Orbis3.plt\r\n",
+      {{"Orbis1.plt", "Orbis1.plt"}, {"Orbis2.plt", "Orbis3.plt"}, {"Orbis3.plt", "orbis4.plt"}});
+  // Files of the user's own names, and one that is missing.
+  removes("a$own\nb$Orbis2.plt\nc$other\nd$Orbis4.plt\ne$Orbis5.plt\n",
+          {"own", "Orbis2.plt", "other", "Orbis5.plt"}, 0,
+          "b$Orbis1.plt\r\nc$other\r\nd$Orbis3.plt\r\ne$Orbis4.plt\r\n",
+          {{"Orbis1.plt", "Orbis2.plt"}, {"other", "other"}, {"Orbis4.plt", "Orbis5.plt"}});
+  // Two entries with one file.
+  removes("a$Orbis1.plt\nb$orbis1.plt\nc$Orbis3.plt\n", {"Orbis1.plt", "Orbis3.plt"}, 0,
+          "b$orbis1.plt\r\nc$Orbis2.plt\r\n",
+          {{"Orbis1.plt", "Orbis1.plt"}, {"Orbis2.plt", "Orbis3.plt"}});
+  // A name that a file outside the list bears.
+  removes("a$own\nb$Orbis2.plt\n", {"own", "Orbis1.plt", "Orbis2.plt"}, 0, "b$Orbis2.plt\r\n",
+          {{"Orbis1.plt", "Orbis1.plt"}, {"Orbis2.plt", "Orbis2.plt"}});
+  // A file that a line behind the empty line names.
+  removes("a$Orbis1.plt\n\nz$orbis1.plt\n", {"Orbis1.plt"}, 0, "\nz$orbis1.plt\n",
+          {{"Orbis1.plt", "Orbis1.plt"}});
+  // A missing file of a name that another entry keeps.
+  removes("a$\nb$Orbis1.plt\nc$Orbis3.plt\n", {"Orbis3.plt"}, 0, "b$Orbis1.plt\r\nc$Orbis2.plt\r\n",
+          {{"Orbis2.plt", "Orbis3.plt"}});
+  // Lines behind the twentieth.
+  removes("n$f1\nn$f2\nn$f3\nn$f4\n" + lines, {"f2"}, 1, "n$f1\r\nn$f3\r\nn$f4\r\n" + lines, {});
 }
 
 TEST_F(PaletteListTest, ARemovalStartsFromTheListAsItIsByThen) {
@@ -192,21 +155,6 @@ TEST_F(PaletteListTest, AChangeThatIsKilledIsMadeOrIsNot) {
                 EXPECT_TRUE(folder.Content() == after || folder.Content() == before);
               });
   EXPECT_EQ(folder.Content(), after) << "once nothing was killed";
-}
-
-TEST_F(PaletteListTest, OnlyAListThatIsWholeCountsAsComplete) {
-  folder.Lay(Layout("a$Orbis1.plt\n\nb$Orbis2.plt\n", {}));
-  int incomplete = 0;
-  ForEachFault([&](FaultyFileSystem& files) {
-    const ScopedFileSystem scope(files);
-    const PaletteList list = ReadPaletteList(folder.Argument());
-    if (list.complete) {
-      EXPECT_EQ(list.entries.size(), 1u);
-      EXPECT_EQ(list.rest, "\nb$Orbis2.plt\n");
-    }
-    incomplete += list.complete ? 0 : 1;
-  });
-  EXPECT_GT(incomplete, 4);
 }
 
 }  // namespace

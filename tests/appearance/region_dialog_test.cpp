@@ -24,15 +24,11 @@ class RegionDialogTest : public testing::Test {
     }
   }
 
-  // The slots that are 1; each other one must be 0.
-  std::vector<int> SlotsOn() const {
-    std::vector<int> on;
-    for (int slot = 0; slot < 48; ++slot) {
-      const int value = dialog.m_nState[static_cast<std::size_t>(slot)];
-      if (value != 0) on.push_back(slot);
-      EXPECT_TRUE(value == 0 || value == 1) << slot;
-    }
-    return on;
+  // The state in which these slots are 1 and the others 0.
+  static RegionState Slots(const std::vector<std::size_t>& on) {
+    RegionState state = {};
+    for (const std::size_t slot : on) state[slot] = 1;
+    return state;
   }
 
   CDlgRegion dialog;
@@ -53,7 +49,7 @@ TEST_F(RegionDialogTest, SeveralMayBeDown) {
   ShowsDown({kHokkaido, kOkinawa});
   script.Click(1);
   EXPECT_EQ(Run(), IDOK);
-  EXPECT_EQ(SlotsOn(), (std::vector<int>{1, 47}));
+  EXPECT_EQ(dialog.m_nState, Slots({1, 47}));
 }
 
 TEST_F(RegionDialogTest, OneMayBeDownAlone) {
@@ -71,7 +67,7 @@ TEST_F(RegionDialogTest, OneMayBeDownAlone) {
   ShowsDown({kWhole});
   script.Click(kTokyo).Click(1);
   EXPECT_EQ(Run(), IDOK);
-  EXPECT_EQ(SlotsOn(), std::vector<int>{13});
+  EXPECT_EQ(dialog.m_nState, Slots({13}));
 }
 
 TEST_F(RegionDialogTest, TheWholeWinsOverThePrefecturesAtTheStart) {
@@ -79,7 +75,7 @@ TEST_F(RegionDialogTest, TheWholeWinsOverThePrefecturesAtTheStart) {
   ShowsDown({kWhole});
   script.Click(1);
   EXPECT_EQ(Run(), IDOK);
-  EXPECT_EQ(SlotsOn(), std::vector<int>{0});
+  EXPECT_EQ(dialog.m_nState, Slots({0}));
 }
 
 TEST_F(RegionDialogTest, OtherNumbersAreUpAndAClickMakesThemZero) {

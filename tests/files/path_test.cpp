@@ -4,7 +4,7 @@
 
 #include <string>
 
-#include "platform/strings/code_page_932.h"
+#include "platform/strings/japanese_literal.h"
 #include "platform/system/file_system.h"
 #include "tests/support/faulty_file_system.h"
 #include "tests/support/test_folder.h"
@@ -26,12 +26,6 @@ class PathTest : public testing::Test {
   }
   TestFolder folder_;
 };
-
-std::string CodePage(const std::string& utf8) {
-  const Encoded encoded = FromUtf8(utf8);
-  EXPECT_EQ(encoded.refused, "");
-  return encoded.bytes;
-}
 
 TEST(NativePathTest, SeparatorsAndDrives) {
   const struct {
@@ -62,9 +56,9 @@ TEST_F(PathTest, FindsNamesWithoutRegardToCase) {
   MakeFolder("Source/Photos");
   folder_.Write("Source/Photos/Ｐｈｏｔｏ1.JPG", "");
   const std::string expected = "Source/Photos/Ｐｈｏｔｏ1.JPG";
-  EXPECT_EQ(Find(CodePage("Source\\Photos\\Ｐｈｏｔｏ1.JPG")), expected);
-  EXPECT_EQ(Find(CodePage("source\\PHOTOS\\ｐＨＯＴＯ1.jpg")), expected);
-  EXPECT_NE(Find(CodePage("source\\photos\\photo1.jpg")), expected) << "widths differ";
+  EXPECT_EQ(Find("Source\\Photos\\Ｐｈｏｔｏ1.JPG"_sj), expected);
+  EXPECT_EQ(Find("source\\PHOTOS\\ｐＨＯＴＯ1.jpg"_sj), expected);
+  EXPECT_NE(Find("source\\photos\\photo1.jpg"_sj), expected) << "widths differ";
 }
 
 TEST_F(PathTest, PrefersTheSpellingGivenThenTheFirstInByteOrder) {
@@ -91,10 +85,10 @@ TEST_F(PathTest, ListsAFolderOnceInTheLifeOfAChange) {
 }
 
 TEST_F(PathTest, FindsNamesThatAreRawBytes) {
-  const std::string name = CodePage("地図.DAT");
+  const std::string name = "地図.DAT"_sj;
   folder_.Write(name, "");
   EXPECT_EQ(Find(name), name);
-  EXPECT_EQ(Find(CodePage("地図.dat")), name) << "in another case";
+  EXPECT_EQ(Find("地図.dat"_sj), name) << "in another case";
   folder_.Write("地図.DAT", "");
   EXPECT_EQ(Find(name), "地図.DAT") << "UTF-8 comes first";
 }
@@ -102,13 +96,13 @@ TEST_F(PathTest, FindsNamesThatAreRawBytes) {
 TEST_F(PathTest, FindsNamesOfOtherSystems) {
   folder_.Write("か\u3099くかく.txt", "");  // decomposed
   folder_.Write("1\u301C2.txt", "");        // a wave dash
-  EXPECT_EQ(Find(CodePage("がくかく.txt")), "か\u3099くかく.txt");
-  EXPECT_EQ(Find(CodePage("1～2.txt")), "1\u301C2.txt");
+  EXPECT_EQ(Find("がくかく.txt"_sj), "か\u3099くかく.txt");
+  EXPECT_EQ(Find("1～2.txt"_sj), "1\u301C2.txt");
 }
 
 TEST_F(PathTest, SpellsWhatIsMissingAsGivenBelowTheFoldersFound) {
   MakeFolder("Data");
-  EXPECT_EQ(Find(CodePage("DATA\\ルートA\\New.txt")), "Data/ルートA/New.txt");
+  EXPECT_EQ(Find("DATA\\ルートA\\New.txt"_sj), "Data/ルートA/New.txt");
   EXPECT_EQ(Find("data\\\x85\xFC.txt"), "Data/\x85\xFC.txt") << "bytes that make no character";
 }
 

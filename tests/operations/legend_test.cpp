@@ -29,13 +29,16 @@ class LegendTest : public testing::Test {
   const std::vector<SwatchColour> empty = std::vector<SwatchColour>(11);
 };
 
-TEST_F(LegendTest, ShowsTheBandsBetweenTheRowsOfThePalette) {
+TEST_F(LegendTest, ShowsTheBandsBetweenTheRowsOfThePaletteAsItWasAtTheStart) {
   folder.Write(kList, std::string("x$none\r\n自然|色$Orbis2.plt\r\n"_sj));
   folder.Write("ORBIS2.PLT", kThreeRows);
-  Call(1, kLake, "自然|色", kThreeRowColours);
   std::vector<SwatchColour> other_lake = kThreeRowColours;
   other_lake.back() = 0xFF0000;
   Call(1, 0xFFFF0000, "自然|色", other_lake);
+  ScriptFrontEnd script;
+  script.OpensDialog(158).Does(Silently([this] { folder.Write("ORBIS2.PLT", ""); }));
+  script.Paint().Does(ShowsSwatches(kSwatches, kThreeRowColours)).Escape();
+  Play(script, [&] { OnLegendElevetion(1, folder.Argument(), static_cast<int>(kLake)); });
 }
 
 TEST_F(LegendTest, WithoutAPaletteTheSwatchesAreEmpty) {
@@ -51,15 +54,6 @@ TEST_F(LegendTest, WithoutAPaletteTheSwatchesAreEmpty) {
   Call(-1, kLake, "", empty);
   folder.Write(kList, "a$none\r\nc$p");
   Call(99, kLake, "c", kThreeRowColours);
-}
-
-TEST_F(LegendTest, LoadsItsColoursOnceAndEndsWithEsc) {
-  folder.Write(kList, "a$p\r\n");
-  folder.Write("p", kThreeRows);
-  ScriptFrontEnd script;
-  script.OpensDialog(158).Does(Silently([this] { folder.Write("p", ""); }));
-  script.Paint().Does(ShowsSwatches(kSwatches, kThreeRowColours)).Escape();
-  Play(script, [&] { OnLegendElevetion(0, folder.Argument(), static_cast<int>(kLake)); });
 }
 
 }  // namespace

@@ -3,6 +3,7 @@
 #define ORRERYUI_TESTS_OPERATIONS_PALETTE_FIXTURE_H_
 
 #include <orreryui/orreryui.h>
+#include <cstdio>
 #include <map>
 
 #include "tests/operations/swatches.h"
@@ -22,6 +23,9 @@ class PaletteTest : public testing::Test {
   static constexpr int kLake = 0x030201;
   static constexpr int kBack = 0x060504;
   static constexpr char kList[] = "PLTTFILE.DAT";
+  static constexpr char kAskOld[] = "配色を更新しますか！";
+  static constexpr char kAskNew[] = "配色を登録しますか！";
+  static constexpr char kAskUpdate[] = "現在選択中の配色を更新します！";
   static constexpr char kNew[] = "新規登録";
   static constexpr char kHint[] = "中間の標高を無視する時は黒色を指定してください！";
 
@@ -76,13 +80,10 @@ class PaletteTest : public testing::Test {
   }
 
   // The result in UTF-8.
-  std::string CallWith(ScriptFrontEnd& visit, int selected, const char* editor = "") {
+  std::string Call(ScriptFrontEnd& visit, int selected, const char* editor = "") {
     return ToUtf8(Play(visit, [&] {
       return OnMapPalleteSet(selected, editor, folder.Argument(), 0x777777, kLake, kBack);
     }));
-  }
-  std::string Call(int selected, const char* editor = "") {
-    return CallWith(script, selected, editor);
   }
 
   TestFolder folder;

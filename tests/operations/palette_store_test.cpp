@@ -1,9 +1,6 @@
 // The palette editor on its files: register, update, delete, edit.
-#include <tuple>
-
-#include "appearance/palette_list.h"
 #include "tests/operations/palette_fixture.h"
-#include "tests/support/each_fault.h"
+#include "tests/support/failing_disk.h"
 
 namespace orreryui {
 namespace {
@@ -14,7 +11,6 @@ constexpr char kAskRegister[] = "新規に配色を登録します！";
 constexpr char kNameMissing[] = "配色の名称を入力してください！";
 constexpr char kNameTaken[] = "配色の名称を新規に入力してください！";
 constexpr char kListFull[] = "配色は許容限度(20)まで登録されています！";
-constexpr char kAskUpdate[] = "現在選択中の配色を更新します！";
 constexpr char kAskDelete[] = "現在選択中の配色を削除します！";
 
 TEST_F(PaletteTest, RegistersThePaletteOfTheNewEntry) {
@@ -22,7 +18,7 @@ TEST_F(PaletteTest, RegistersThePaletteOfTheNewEntry) {
   script.ShowsMessage(kAskRegister, kOk);
   script.ShowsRows(kNames, {"自然", "冬", "ー表|[ＡＢ"}).ShowsSelection(kNames, -1);
   script.Shows(kNames, "").Shows(kEdit, kNew).Click(1);
-  EXPECT_EQ(Call(2), "2|0|0|0|1|2|3|4|5|6|");
+  EXPECT_EQ(Call(script, 2), "2|0|0|0|1|2|3|4|5|6|");
   EXPECT_EQ(folder.Read(kList), List(2) + "ー表|[ＡＢ$Orbis3.plt\r\n"_sj);
   EXPECT_EQ(folder.Read("Orbis3.plt"), ";" + std::string("ー表|[ＡＢ"_sj) + "  " +
                                            folder.Path().string() + "/Orbis3.plt  \r\n" +
@@ -41,7 +37,7 @@ TEST_F(PaletteTest, ARegistrationAsksForANameThatIsNew) {
   script.ShowsMessage(kNameMissing, kCancel);
   script.Type(kNames, "冬").Click(kEdit).ShowsMessage(kAskRegister, kOk);
   script.ShowsMessage(kNameTaken, kOk).Shows(kNames, "冬").Escape();
-  Call(2);
+  Call(script, 2);
   EXPECT_EQ(folder.Read(kList), List(2));
   EXPECT_EQ(folder.Read("Orbis3.plt"), std::nullopt);
 }
@@ -55,7 +51,7 @@ TEST_F(PaletteTest, ANameThatTheListCannotHoldIsNotTaken) {
   // The list ends a name at its first $.
   script.Type(kNames, "a$b").Click(kEdit).ShowsMessage(kAskRegister, kOk);
   script.ShowsRows(kNames, {"自然", "冬", longest, "a"}).Click(1);
-  EXPECT_EQ(Call(2), "2|0|0|0|1|2|3|4|5|6|");
+  EXPECT_EQ(Call(script, 2), "2|0|0|0|1|2|3|4|5|6|");
   EXPECT_EQ(folder.Read(kList), List(2) + longest + "$Orbis3.plt\r\na$b$Orbis4.plt\r\n");
 }
 
@@ -75,8 +71,8 @@ TEST_F(PaletteTest, WhatOthersMadeOfTheListMeanwhileCounts) {
   script.Click(kDelete)
       .ShowsMessage(kAskDelete, kOk)
       .ShowsRows(kNames, {"自然", "冬", "other", "x"});
-  script.Click(1).ShowsMessage("配色を更新しますか！", kCancel);
-  EXPECT_EQ(Call(2), "1|20|20|20|1|2|3|4|5|6|");
+  script.Click(1).ShowsMessage(kAskOld, kCancel);
+  EXPECT_EQ(Call(script, 2), "1|20|20|20|1|2|3|4|5|6|");
   EXPECT_EQ(folder.Read(kList), list);
   EXPECT_EQ(folder.Read("Orbis2.plt"), Text(kWinter));
   EXPECT_EQ(folder.Read("Orbis3.plt"), "other");
@@ -88,7 +84,7 @@ TEST_F(PaletteTest, TheNineteenthPaletteIsTheLast) {
   script.Type(kNames, "nineteenth").Click(kEdit).ShowsMessage(kAskRegister, kOk);
   script.Type(kNames, "one more").Click(kEdit).ShowsMessage(kAskRegister, kOk);
   script.ShowsMessage(kListFull, kOk).Shows(kNames, "one more").Click(1);
-  EXPECT_EQ(Call(18), "18|0|0|0|1|2|3|4|5|6|");
+  EXPECT_EQ(Call(script, 18), "18|0|0|0|1|2|3|4|5|6|");
   EXPECT_EQ(folder.Read(kList), List(18) + "nineteenth$Orbis19.plt\r\n");
 }
 
@@ -97,7 +93,7 @@ TEST_F(PaletteTest, AnUpdateReplacesTheFileOnceItIsConfirmed) {
   script.ShowsMessage(kAskUpdate, kCancel).Click(kEdit).ShowsMessage(kAskUpdate, kOk);
   // What was written can be written again, and OK has nothing to ask.
   script.Click(kEdit).ShowsMessage(kAskUpdate, kCancel).Click(1);
-  EXPECT_EQ(Call(0), "0|10|10|10|1|2|3|4|5|6|");
+  EXPECT_EQ(Call(script, 0), "0|10|10|10|1|2|3|4|5|6|");
   EXPECT_EQ(folder.Read("Orbis1.plt"), ";" + std::string("自然"_sj) + "  " +
                                            folder.Path().string() + "/Orbis1.plt  \r\n" +
                                            "   0  10  10  10    青（海域）  1:15\r\n"_sj +
@@ -111,8 +107,8 @@ TEST_F(PaletteTest, OkStaysUntilTheDiskTakesWhatIsPending) {
     std::uint32_t colour;
     const char *missing, *question, *confirmation, *written;
   } cases[] = {
-      {0, 0x040302, "Orbis1.plt", "配色を更新しますか！", kAskUpdate, "Orbis1.plt"},
-      {2, 0, kList, "配色を登録しますか！", kAskRegister, "Orbis3.plt"},
+      {0, 0x040302, "Orbis1.plt", kAskOld, kAskUpdate, "Orbis1.plt"},
+      {2, 0, kList, kAskNew, kAskRegister, "Orbis3.plt"},
   };
   for (const auto& c : cases) {
     const std::string bytes = folder.Read(c.missing).value();
@@ -125,7 +121,7 @@ TEST_F(PaletteTest, OkStaysUntilTheDiskTakesWhatIsPending) {
       folder.Write(c.missing, bytes);
     }));
     visit.Click(1).ShowsMessage(c.question, kOk).ShowsMessage(c.confirmation, kOk);
-    EXPECT_NE(CallWith(visit, c.selected), "");
+    EXPECT_NE(Call(visit, c.selected), "");
     const std::string text = folder.Read(c.written).value_or("");
     EXPECT_NE(text.find(" 100   9   0   0"), std::string::npos) << text;
   }
@@ -153,7 +149,7 @@ TEST_F(PaletteTest, ADeletionRenumbersAndStaysAfterCancel) {
   script.Click(kDelete).ShowsMessage(kAskDelete, kOk).ShowsRows(kNames, {"冬", kNew});
   script.ShowsSelection(kNames, -1).Shows(kNames, "").Shows(kNote, "配色の登録数=2");
   script.Does(ShowsSwatches(kSlots, Colours(kNatural))).Escape();
-  EXPECT_EQ(Call(0), "");
+  EXPECT_EQ(Call(script, 0), "");
   EXPECT_EQ(folder.Read(kList), std::string("冬$Orbis1.plt\r\n"_sj));
   EXPECT_EQ(folder.Read("Orbis1.plt"), Text(kWinter));
   EXPECT_EQ(folder.Read("Orbis2.plt"), std::nullopt);
@@ -163,7 +159,7 @@ TEST_F(PaletteTest, AfterADeletionTheNumberNamesThePaletteBehind) {
   script.Click(kDelete).ShowsMessage(kAskDelete, kOk).Pick(kNames, 1).Click(kDelete);
   script.Pick(kNames, 0).Does(ShowsSwatches(kSlots, Colours(kWinter)));
   script.Click(kDelete).ShowsMessage(kAskDelete, kOk).ShowsRows(kNames, {kNew}).Click(1);
-  EXPECT_EQ(Call(0), "0|20|20|20|1|2|3|4|5|6|");
+  EXPECT_EQ(Call(script, 0), "0|20|20|20|1|2|3|4|5|6|");
   EXPECT_EQ(folder.Read(kList), "");
 }
 
@@ -171,7 +167,7 @@ TEST_F(PaletteTest, ADeletionDropsAChangeAndLeavesTheColoursToThePaletteBehind) 
   script.Click(Swatch(2)).ChoosesColour(0x040302, 9u);
   script.Click(kDelete).ShowsMessage(kAskDelete, kOk).Click(kEdit);
   script.ShowsMessage(kAskUpdate, kCancel).Click(1);
-  EXPECT_EQ(Call(0), "0|10|10|10|1|2|3|4|5|6|");
+  EXPECT_EQ(Call(script, 0), "0|10|10|10|1|2|3|4|5|6|");
   EXPECT_EQ(folder.Read("Orbis1.plt"), Text(kWinter));
 }
 
@@ -187,76 +183,29 @@ TEST_F(PaletteTest, ADeletionMakesRoomForTheNewEntry) {
     ScriptFrontEnd visit;
     visit.OpensDialog(177).Click(kDelete).ShowsMessage(kAskDelete, kOk).ShowsRows(kNames, rows);
     visit.Escape();
-    CallWith(visit, 1);
+    Call(visit, 1);
   }
 }
 
-// All that a click may change: the files, and the list as the user sees it.
-using Scene = std::tuple<Files, std::vector<std::vector<std::string>>, std::string, int>;
-
-class FailingDiskTest : public PaletteTest {
- protected:
-  using Steps = std::function<void(ScriptFrontEnd&)>;
-
-  const Files before = folder.Content();
-
-  Scene Look(const ControlSession& session) const {
-    Files files = folder.Content();
-    // What is left of a second file goes with the next write.
-    std::erase_if(files, [](const auto& file) { return file.first.front() == '.'; });
-    const ControlView view = ControlOf(session, kNames);
-    return {files, view.rows, view.text, view.selection};
+TEST_F(PaletteTest, WhatTheDiskRefusesHasNoEffect) {
+  const struct {
+    int selected, button;
+    const char* question;
+    Steps prepare;
+  } cases[] = {
+      {2, kEdit, kAskRegister, [](ScriptFrontEnd& visit) { visit.Type(kNames, "x"); }},
+      {0, kEdit, kAskUpdate,
+       [this](ScriptFrontEnd& visit) { visit.Click(Swatch(2)).ChoosesColour(0x040302, 9u); }},
+      {0, kDelete, kAskDelete, [](ScriptFrontEnd&) {}},
+      {1, kDelete, kAskDelete, [](ScriptFrontEnd&) {}},
+  };
+  for (const auto& c : cases) {
+    SCOPED_TRACE(c.question);
+    PlayOnAFailingDisk(
+        {folder, kList, [&](ScriptFrontEnd& visit) { c.prepare(visit.OpensDialog(177)); },
+         [&](ScriptFrontEnd& visit) { visit.Click(c.button).ShowsMessage(c.question, kOk); },
+         [&](ScriptFrontEnd& visit) { Call(visit.Escape(), c.selected); }});
   }
-
-  // Plays `prepare`, then clicks on a disk with faults. What was before the click, and what is once
-  // the list has been opened again.
-  std::pair<Scene, Scene> Click(FaultyFileSystem& files, int selected, const Steps& prepare, int id,
-                                const char* question) {
-    folder.Lay(before);
-    std::pair<Scene, Scene> scenes;
-    std::optional<ScopedFileSystem> disk;
-    ScriptFrontEnd visit;
-    prepare(visit.OpensDialog(177));
-    visit.Does([&](ControlSession& session) {
-      scenes.first = Look(session);
-      disk.emplace(files);
-      return "";
-    });
-    visit.Click(id).ShowsMessage(question, kOk).Does([&](ControlSession& session) {
-      disk.reset();
-      ReadPaletteList(folder.Argument());
-      scenes.second = Look(session);
-      return "";
-    });
-    visit.Escape();
-    CallWith(visit, selected);
-    return scenes;
-  }
-
-  // Each time the click has no effect at all, or the whole of it.
-  void ClickOnAFailingDisk(int selected, const Steps& prepare, int id, const char* question) {
-    FaultyFileSystem sound;
-    const Scene whole = Click(sound, selected, prepare, id, question).second;
-    int refusals = 0;
-    ForEachFault([&](FaultyFileSystem& files) {
-      const auto [old, scene] = Click(files, selected, prepare, id, question);
-      EXPECT_NE(old, whole);
-      EXPECT_TRUE(scene == old || scene == whole) << question;
-      refusals += scene == old ? 1 : 0;
-    });
-    EXPECT_GT(refusals, 4) << question;
-  }
-};
-
-TEST_F(FailingDiskTest, WhatTheDiskRefusesHasNoEffect) {
-  const auto nothing = [](ScriptFrontEnd&) {};
-  ClickOnAFailingDisk(
-      2, [](ScriptFrontEnd& visit) { visit.Type(kNames, "x"); }, kEdit, kAskRegister);
-  ClickOnAFailingDisk(
-      0, [this](ScriptFrontEnd& visit) { visit.Click(Swatch(2)).ChoosesColour(0x040302, 9u); },
-      kEdit, kAskUpdate);
-  ClickOnAFailingDisk(0, nothing, kDelete, kAskDelete);
-  ClickOnAFailingDisk(1, nothing, kDelete, kAskDelete);
 }
 
 TEST_F(PaletteTest, WithNothingPendingTheEditorOpensTheFileOfTheChosenRow) {
@@ -266,7 +215,7 @@ TEST_F(PaletteTest, WithNothingPendingTheEditorOpensTheFileOfTheChosenRow) {
   script.Click(kEdit).Click(Swatch(11)).ChoosesColour(9, kLake);
   script.Does(ShowsSwatches(kSlots, Colours(kWinter))).Pick(kNames, 1);
   script.Does(ShowsSwatches(kSlots, Colours({{2, 0x070707}}))).Click(1);
-  EXPECT_EQ(Call(0, program.c_str()), "1|0|0|0|1|2|3|4|5|6|");
+  EXPECT_EQ(Call(script, 0, program.c_str()), "1|0|0|0|1|2|3|4|5|6|");
   EXPECT_EQ(folder.Read("Orbis2.plt"), " 100   7   7   7\n");
 }
 

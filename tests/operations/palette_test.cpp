@@ -12,7 +12,7 @@ TEST_F(PaletteTest, ShowsTheListAndTheColoursOfTheChosenPalette) {
       .ShowsSelection(kNames, 1);
   script.Shows(kNames, "冬").Shows(kNote, "配色の登録数=2").Shows(kEdit, "編集");
   script.ShowsCheck(kCheck, false).Does(ShowsSwatches(kSlots, Colours(kWinter))).Click(1);
-  EXPECT_EQ(Call(1), "1|20|20|20|1|2|3|4|5|6|");
+  EXPECT_EQ(Call(script, 1), "1|20|20|20|1|2|3|4|5|6|");
   EXPECT_EQ(folder.Read(kList), List(2));
 }
 
@@ -21,7 +21,7 @@ TEST_F(PaletteTest, ARowThatTheListLacksStaysTheChosenOne) {
     ScriptFrontEnd visit;
     visit.OpensDialog(177).ShowsSelection(kNames, -1).Shows(kNames, "");
     visit.Does(ShowsSwatches(kSlots, Colours({}))).Click(kEdit).Click(kDelete).Click(1);
-    EXPECT_EQ(CallWith(visit, selected), std::to_string(selected) + "|0|0|0|1|2|3|4|5|6|");
+    EXPECT_EQ(Call(visit, selected), std::to_string(selected) + "|0|0|0|1|2|3|4|5|6|");
   }
   EXPECT_EQ(folder.Read(kList), List(2));
 }
@@ -39,7 +39,7 @@ TEST_F(PaletteTest, TheCheckFillsInWhatThePaletteLeavesOut) {
   // A click on a swatch ends the check, but leaves the colours that it filled in.
   script.Pick(kNames, 0).Click(kCheck).Click(Swatch(6)).ChoosesColour(100, std::nullopt);
   script.ShowsCheck(kCheck, false).Does(ShowsSwatches(kSlots, Colours(filled))).Escape();
-  Call(0);
+  Call(script, 0);
 }
 
 TEST_F(PaletteTest, AColourIsChosenForOneSlotAndTheClickedSwatchStandsOut) {
@@ -52,20 +52,19 @@ TEST_F(PaletteTest, AColourIsChosenForOneSlotAndTheClickedSwatchStandsOut) {
   script.Does(ShowsSwatches(kSlots, Colours(changed))).Shows(kEdit, "更新").Shows(kNote, kHint);
   script.Paint().Does(ShowsFramed({Swatch(2)})).Does(ShowsSwatches(kSlots, Colours(changed)));
   script.Pick(kNames, 1).Shows(kEdit, "更新").Click(2);
-  EXPECT_EQ(Call(0), "");
+  EXPECT_EQ(Call(script, 0), "");
 }
 
 TEST_F(PaletteTest, LakesAndBackgroundGoToTheResultAndNotToTheFile) {
   script.Click(Swatch(11)).ChoosesColour(kLake, 0x0C0B0A).Shows(kEdit, "更新");
   script.Click(Swatch(13)).ChoosesColour(kBack, 0xFFFFFF).Pick(kNames, 1).Click(1);
-  EXPECT_EQ(Call(0), "1|20|20|20|10|11|12|255|255|255|");
+  EXPECT_EQ(Call(script, 0), "1|20|20|20|10|11|12|255|255|255|");
   EXPECT_EQ(folder.Read("Orbis1.plt"), Text(kNatural));
-}
-
-TEST_F(PaletteTest, TheNewEntryChoosesLakesAndBackgroundFromBlack) {
-  script.Click(Swatch(11)).ChoosesColour(0, 0x0C0B0A).Click(Swatch(13)).ChoosesColour(0, 7u);
+  // The new entry's start from black.
+  script.OpensDialog(177).Click(Swatch(11)).ChoosesColour(0, 0x0C0B0A);
+  script.Click(Swatch(13)).ChoosesColour(0, 7u);
   script.Click(Swatch(11)).ChoosesColour(0x0C0B0A, std::nullopt).Click(1);
-  EXPECT_EQ(Call(2), "2|0|0|0|10|11|12|7|0|0|");
+  EXPECT_EQ(Call(script, 2), "2|0|0|0|10|11|12|7|0|0|");
 }
 
 TEST_F(PaletteTest, EachSwatchOfAnElevationIsSavedInItsRow) {
@@ -75,17 +74,14 @@ TEST_F(PaletteTest, EachSwatchOfAnElevationIsSavedInItsRow) {
     colours[slot] = 0x010203u * static_cast<unsigned>(slot);
     script.Click(Swatch(place)).ChoosesColour(Colours(kNatural)[place - 1].value(), colours[slot]);
   }
-  script.Click(1).ShowsMessage("配色を更新しますか！", kOk);
-  script.ShowsMessage("現在選択中の配色を更新します！", kOk);
-  Call(0);
+  script.Click(1).ShowsMessage(kAskOld, kOk);
+  script.ShowsMessage(kAskUpdate, kOk);
+  Call(script, 0);
   script.OpensDialog(177).Does(ShowsSwatches(kSlots, Colours(colours))).Escape();
-  Call(0);
+  Call(script, 0);
 }
 
 TEST_F(PaletteTest, OkAsksAboutTheChosenRowIfAChangeIsPending) {
-  constexpr char kAskOld[] = "配色を更新しますか！";
-  constexpr char kAskNew[] = "配色を登録しますか！";
-  constexpr char kAskUpdate[] = "現在選択中の配色を更新します！";
   constexpr char kUnchanged[] = "0|10|10|10|1|2|3|4|5|6|";
   auto changed = kNatural;
   changed[2] = 9;
@@ -117,10 +113,10 @@ TEST_F(PaletteTest, OkAsksAboutTheChosenRowIfAChangeIsPending) {
     visit.Click(1);
     if (c.question) visit.ShowsMessage(c.question, c.confirmed > 0 ? kOk : kCancel);
     if (c.confirmed > 0) visit.ShowsMessage(kAskUpdate, c.confirmed > 1 ? kOk : kCancel);
-    EXPECT_EQ(CallWith(visit, 0), c.result);
+    EXPECT_EQ(Call(visit, 0), c.result);
     EXPECT_EQ(folder.Read("Orbis2.plt") != Text(kWinter), c.picked == 1);
     look.OpensDialog(177).Does(ShowsSwatches(kSlots, Colours(c.natural))).Escape();
-    CallWith(look, 0);
+    Call(look, 0);
   }
   EXPECT_EQ(folder.Read(kList), List(2));
 }
@@ -135,8 +131,8 @@ TEST_F(PaletteTest, TheNewEntryKeepsColoursOfItsOwn) {
   colours[1] = 0x445566;
   script.Does(ShowsSwatches(kSlots, Colours(colours)));
   script.Click(kCheck).Does(ShowsSwatches(kSlots, Colours({}))).Click(1);
-  script.ShowsMessage("配色を登録しますか！", kCancel);
-  EXPECT_EQ(Call(2), "2|0|0|0|1|2|3|4|5|6|");
+  script.ShowsMessage(kAskNew, kCancel);
+  EXPECT_EQ(Call(script, 2), "2|0|0|0|1|2|3|4|5|6|");
   EXPECT_EQ(folder.Read(kList), List(2));
 }
 
@@ -149,7 +145,7 @@ TEST_F(PaletteTest, ALongListIsShownUpToItsTwentiethLine) {
     ScriptFrontEnd visit;
     visit.OpensDialog(177).ShowsRows(kNames, rows);
     visit.Shows(kNote, "配色の登録数=" + std::to_string(std::min(count, 20))).Escape();
-    CallWith(visit, 0);
+    Call(visit, 0);
   }
 }
 

@@ -3,7 +3,6 @@
 #define ORRERYUI_TESTS_OPERATIONS_SWATCHES_H_
 
 #include <cstdint>
-#include <cstdio>
 
 #include "tests/support/play.h"
 
@@ -14,18 +13,12 @@ using SwatchColour = std::optional<std::uint32_t>;
 // The colours of the swatches in the order of `ids`.
 inline ScriptFrontEnd::Action ShowsSwatches(std::vector<int> ids,
                                             std::vector<SwatchColour> colours) {
-  const auto name = [](SwatchColour colour) -> std::string {
-    if (!colour) return "empty ";
-    char text[16];
-    std::snprintf(text, sizeof text, "%06X ", static_cast<unsigned>(*colour));
-    return text;
-  };
   return [=](ControlSession& session) -> std::string {
-    std::string found;
-    std::string expected;
-    for (const SwatchColour& colour : colours) expected += name(colour);
-    for (const int id : ids) found += name(ControlOf(session, id).swatch.colour);
-    return found == expected ? "" : "swatches " + found + "not " + expected;
+    for (std::size_t i = 0; i < ids.size(); ++i) {
+      if (ControlOf(session, ids[i]).swatch.colour == colours[i]) continue;
+      return "another colour in swatch " + std::to_string(ids[i]);
+    }
+    return "";
   };
 }
 

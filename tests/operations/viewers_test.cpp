@@ -12,7 +12,6 @@ const std::string kHead = "=====   =====\r\n";
 
 // A file, and what the viewers make of it, all in code page 932.
 struct Case {
-  const char* what;
   std::string file;
   std::string main;
   std::string memo;     // without the head line
@@ -31,33 +30,42 @@ std::vector<Case> Cases() {
   const std::string full(3198, 'a');
   const std::string half_pair = std::string(3197, 'a') + "\x82";
   return {
-      {"nothing", "", "", "", ""},
-      {"one line end", "\n", "\r\n\r\n", "", "\r\n\r\n"},
-      {"main text and memo", "a\r\n999\r\nb\r\nc", "a\r\n", "b\r\nc\r\n", "a\r\n999\r\nb\r\nc\r\n"},
-      {"the mark twice", "999\n999\n;b\n\nc\n999\nd", "", ";b\r\n\r\nc\r\nd\r\n",
+      {"", "", "", ""},
+      // One line end.
+      {"\n", "\r\n\r\n", "", "\r\n\r\n"},
+      // Main text and memo.
+      {"a\r\n999\r\nb\r\nc", "a\r\n", "b\r\nc\r\n", "a\r\n999\r\nb\r\nc\r\n"},
+      // The mark twice.
+      {"999\n999\n;b\n\nc\n999\nd", "", ";b\r\n\r\nc\r\nd\r\n",
        "999\r\n999\r\n;b\r\n\r\nc\r\n999\r\nd\r\n"},
-      {"the mark at the end, with its line end", "a\r\n999\r\n", "a\r\n", "\r\n",
-       "a\r\n999\r\n\r\n"},
-      {"almost the mark", " 999\n999 \n0999\n9990", " 999\r\n999 \r\n0999\r\n9990\r\n", "",
+      // The mark at the end, with its line end.
+      {"a\r\n999\r\n", "a\r\n", "\r\n", "a\r\n999\r\n\r\n"},
+      // Almost the mark.
+      {" 999\n999 \n0999\n9990", " 999\r\n999 \r\n0999\r\n9990\r\n", "",
        " 999\r\n999 \r\n0999\r\n9990\r\n"},
-      {"a comment is text", ";a\r\nM b\r\n\r\n;c", ";a\r\nM b\r\n\r\n;c\r\n", "",
-       ";a\r\nM b\r\n\r\n;c\r\n"},
-      {"half-width katakana, a special character and user-defined ones", japanese + user_defined,
-       japanese + user_defined + "\r\n", "", japanese + user_defined + "\r\n"},
-      {"16 lines", Repeat(15, "a\n") + "b", Repeat(15, "a\r\n") + "b\r\n", "",
-       Repeat(15, "a\r\n") + "b\r\n"},
-      {"16 lines and an empty one", Repeat(16, "a\n"), Repeat(16, "a\r\n") + "\r\n", "",
-       Repeat(16, "a\r\n")},
-      {"3197 bytes", full.substr(1), full.substr(1) + "\r\n", "", full.substr(1) + "\r\n"},
-      {"3198 bytes", full, full + "\r\n", "", full.substr(1) + "\r\na\r\n"},
-      {"3199 bytes", full + "a\r\nb", full + "\r\na\r\nb\r\n", "",
-       full.substr(1) + "\r\naa\r\nb\r\n"},
-      {"a character cut in two", half_pair + "\xA0", half_pair + "\r\n\xA0\r\n", "",
+      // A comment is text.
+      {";a\r\nM b\r\n\r\n;c", ";a\r\nM b\r\n\r\n;c\r\n", "", ";a\r\nM b\r\n\r\n;c\r\n"},
+      // Half-width katakana, a special character and user-defined ones.
+      {japanese + user_defined, japanese + user_defined + "\r\n", "",
+       japanese + user_defined + "\r\n"},
+      // 16 lines.
+      {Repeat(15, "a\n") + "b", Repeat(15, "a\r\n") + "b\r\n", "", Repeat(15, "a\r\n") + "b\r\n"},
+      // 16 lines and an empty one.
+      {Repeat(16, "a\n"), Repeat(16, "a\r\n") + "\r\n", "", Repeat(16, "a\r\n")},
+      // 3197 bytes.
+      {full.substr(1), full.substr(1) + "\r\n", "", full.substr(1) + "\r\n"},
+      // 3198 bytes.
+      {full, full + "\r\n", "", full.substr(1) + "\r\na\r\n"},
+      // 3199 bytes.
+      {full + "a\r\nb", full + "\r\na\r\nb\r\n", "", full.substr(1) + "\r\naa\r\nb\r\n"},
+      // A character cut in two.
+      {half_pair + "\xA0", half_pair + "\r\n\xA0\r\n", "",
        half_pair.substr(0, 3197) + "\r\n\x82\xA0\r\n"},
-      {"the rest of a long line is a line", full + "999\nb", full + "\r\n", "b\r\n",
-       full.substr(1) + "\r\na999\r\nb\r\n"},
-      {"bytes that are no text", std::string("a\0b\r\nc\rd\x1A\xFF\x80\n\x81", 13),
-       "a\r\nc\rd\x1A\xFF\x80\r\n\x81\r\n", "", "a\r\nc\rd\x1A\xFF\x80\r\n\x81\r\n"},
+      // The rest of a long line is a line.
+      {full + "999\nb", full + "\r\n", "b\r\n", full.substr(1) + "\r\na999\r\nb\r\n"},
+      // Bytes that are no text.
+      {std::string("a\0b\r\nc\rd\x1A\xFF\x80\n\x81", 13), "a\r\nc\rd\x1A\xFF\x80\r\n\x81\r\n", "",
+       "a\r\nc\rd\x1A\xFF\x80\r\n\x81\r\n"},
   };
 }
 
@@ -90,7 +98,7 @@ class ViewersTest : public testing::Test {
 
 TEST_F(ViewersTest, EachShowsItsPartOfTheFile) {
   for (const Case& one : Cases()) {
-    SCOPED_TRACE(one.what);
+    SCOPED_TRACE(one.file);
     folder.Write(kFile, one.file);
     EXPECT_EQ(Main(Path()), ToUtf8(one.main));
     EXPECT_EQ(Memo(1, Path(), "dropped"), ToUtf8(kHead + one.memo));
@@ -131,27 +139,20 @@ TEST_F(ViewersTest, TheTextViewShowsCaptionAndPathAndDropsWhatIsTyped) {
 }
 
 TEST_F(ViewersTest, TheMemoOpensWhereTheCallerWantsIt) {
-  struct Place {
-    int left;
-    Placement placement;
-    int x;
-    int y;
-  };
-  const Place places[] = {{1, Placement::kAtPixel, 1, 560},
-                          {700, Placement::kAtPixel, 700, 560},
-                          {0, Placement::kAtPosition, 5, 267},
-                          {-5, Placement::kAtPosition, 5, 267}};
-  for (const Place& place : places) {
+  const std::tuple<int, Placement, int, int> cases[] = {{1, Placement::kAtPixel, 1, 560},
+                                                        {700, Placement::kAtPixel, 700, 560},
+                                                        {0, Placement::kAtPosition, 5, 267},
+                                                        {-5, Placement::kAtPosition, 5, 267}};
+  for (const auto& [left, placement, x, y] : cases) {
+    const std::tuple place(placement, x, y);
     ScriptFrontEnd script;
     script.OpensDialog(133).ShowsTitle("    メモ（連絡先／画像説明）").Shows(102, "no\\such");
     script.Does([place](ControlSession& session) {
       const DialogLayout layout = session.Layout();
-      const bool right =
-          layout.placement == place.placement && layout.x == place.x && layout.y == place.y;
-      return right ? "" : "wrong place";
+      return place == std::tuple(layout.placement, layout.x, layout.y) ? "" : "wrong place";
     });
     script.Type(101, "typed").Click(1);
-    Play(script, [&] { OnMemoDisplay(0, place.left, "no\\such", "text"); });
+    Play(script, [&, left = left] { OnMemoDisplay(0, left, "no\\such", "text"); });
   }
 }
 

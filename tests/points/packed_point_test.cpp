@@ -67,19 +67,5 @@ TEST(PackedPointTest, APictureIsToldByASuffixAnywhereInTheFirstName) {
   }
 }
 
-TEST(PackedPointTest, TextThatIsNoPackedPointIsTakenApartAllTheSame) {
-  EXPECT_STREQ(UnpackPoint("").place, "");
-  const DataLine bare = UnpackPoint("x.jpg");
-  EXPECT_STREQ(bare.longitude, "x.jpg");
-  EXPECT_STREQ(bare.place, "");
-  EXPECT_STREQ(UnpackPoint("i@f$1$2").item, "i");
-}
-
-TEST(PackedPointTest, TheLabelIsWhatStandsBeforeTheFiles) {
-  EXPECT_STREQ(PointLabel("p#i@a.txt$1$2"), "p#i");
-  EXPECT_STREQ(PointLabel("ァ#ー@@"_sj), "ァ#ー"_sj);
-  EXPECT_STREQ(PointLabel("none"), "none");
-}
-
 }  // namespace
 }  // namespace orreryui
