@@ -36,6 +36,13 @@ CString ItemBody(const CString& title, const CString& file) {
   return title.IsEmpty() && file.IsEmpty() ? CString() : title + '@' + file;
 }
 
+// The slot that an item line's key names, if there is one.
+std::optional<std::size_t> SlotOf(const CString& item) {
+  const int number = std::atoi(item.Left(2));
+  if (number < 0 || number >= static_cast<int>(kMenuSlots)) return std::nullopt;
+  return static_cast<std::size_t>(number);
+}
+
 CString GuidemapLine(const CString& title, const CString& file) { return title + ' ' + file; }
 
 void EndLine(std::string& text) {
@@ -55,8 +62,21 @@ class Section {
   Role Take(const CString& line) {
     if (IsSkipped(line)) return Role::kNone;
     if (IsHead(line)) return TakeHead();
-    if (!inside_ || items_ == kMenuSlots || line.Find('=') < 0) return Role::kNone;
+    if (!IsOpen() || line.Find('=') < 0) return Role::kNone;
     return TakeItem(line);
+  }
+
+  // Whether the next line may be one of its item lines.
+  bool IsOpen() const { return inside_ && items_ < kMenuSlots; }
+
+  Role TakeItem(const CString& line) {
+    ++items_;
+    const auto slot = SlotOf(line);
+    if (!slot) return Role::kWithoutSlot;
+    slot_ = *slot;
+    const bool had = had_[slot_];
+    had_.set(slot_);
+    return had ? Role::kDoubled : Role::kItem;
   }
 
   // Of the last line, if that is an item line of a slot.
@@ -70,16 +90,6 @@ class Section {
   Role TakeHead() {
     inside_ = heads_++ == number_;
     return inside_ ? Role::kHead : Role::kNone;
-  }
-
-  Role TakeItem(const CString& line) {
-    ++items_;
-    const int number = std::atoi(line.Left(2));
-    if (number < 0 || number >= static_cast<int>(kMenuSlots)) return Role::kWithoutSlot;
-    slot_ = static_cast<std::size_t>(number);
-    const bool had = had_[slot_];
-    had_.set(slot_);
-    return had ? Role::kDoubled : Role::kItem;
   }
 
   const int number_;
@@ -98,7 +108,8 @@ class Rewrite {
 
   // Takes the next line of the file, with the bytes that it was read from.
   void Take(const CString& line, std::string_view bytes) {
-    const Role role = section_.Take(line);
+    const bool continues_line = end_ == content_.size() && !content_.ends_with('\n');
+    const Role role = IsOwnItem(line) ? section_.TakeItem(line) : section_.Take(line);
     if (role == Role::kItem) {
       TakeItem(KeyOf(line) + BodyOf(section_.slot()));
     } else if (role == Role::kWithoutSlot) {
@@ -106,7 +117,7 @@ class Rewrite {
     } else {
       content_ += bytes;
     }
-    if (role != Role::kNone) end_ = content_.size();
+    if (role != Role::kNone || continues_line) end_ = content_.size();
   }
 
   // Adds the lines that are lacking. False if the section can't hold them.
@@ -122,6 +133,12 @@ class Rewrite {
   const std::string& Content() const { return content_; }
 
  private:
+  // Whether an entry of the slots looks like a head: the line that an earlier rewrite gave it.
+  bool IsOwnItem(const CString& line) const {
+    const auto slot = SlotOf(line);
+    return section_.IsOpen() && IsHead(line) && slot && line == KeyOf(line) + BodyOf(*slot);
+  }
+
   CString BodyOf(std::size_t slot) const { return ItemBody(titles_[slot], files_[slot]); }
 
   void TakeItem(const CString& line) { content_.append(line).append("\r\n"); }

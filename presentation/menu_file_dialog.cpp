@@ -122,7 +122,7 @@ void CDlgMenuFile::OnEditEntry() {
   m_aTitles[slot] = title;
   m_aFiles[slot] = file;
   ShowEntries();
-  SetCurSel(kEntries, adds ? row + 1 : row);
+  SetCurSel(kEntries, std::min(adds ? row + 1 : row, GetCount(kEntries) - 1));
   m_nModified = 1;
 }
 

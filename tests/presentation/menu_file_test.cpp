@@ -87,6 +87,15 @@ TEST_F(MenuFileTest, EntriesAreWrittenAndReadBack) {
   }
 }
 
+TEST_F(MenuFileTest, AnEntryThatLooksLikeAHeadStaysInItsSectionWhileItIsKnown) {
+  Lay(kMenuFile, "[M\n" + Items(0, 34));
+  titles[1] = "x[M";
+  EXPECT_TRUE(Save(0));
+  titles[2] = "y";
+  EXPECT_TRUE(Save(0));
+  EXPECT_EQ(Found(kMenuFile), "[M\n00=\r\n01=x[M@\r\n02=y@\r\n" + Items(3, 34));
+}
+
 // What the lines of a file mean to a section, and what becomes of them when slot 2 gets an entry;
 // what is refused leaves the file as it was.
 TEST_F(MenuFileTest, AllButTheSectionStaysAsItWas) {
@@ -126,6 +135,7 @@ TEST_F(MenuFileTest, AllButTheSectionStaysAsItWas) {
       // Lines that are cut, in the section, outside it and in a comment; much of everything.
       {0, "[M\n02=" + bar + "@bcd\n[M\n02=" + bar + "@bcd\n", "2:" + bar + "||",
        "[M\n02=N@n\r\nbcd\n[M\n02=" + bar + "@bcd\n"},
+      {0, "[M" + Repeat(198, "-") + "\n[M\n", "", "[M" + Repeat(198, "-") + "\n02=N@n\r\n[M\n"},
       {1, ";" + Repeat(198, "-") + "[M\n02=\n[M\n02=\n", "",
        ";" + Repeat(198, "-") + "[M\n02=\n[M\n02=N@n\r\n"},
       {0, much + "[M\n02=\n[M\n" + much, "", much + "[M\n02=N@n\r\n[M\n" + much},
