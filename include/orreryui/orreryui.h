@@ -304,12 +304,14 @@ ORRERYUI_EXPORT void OnMemoDisplay(int mode, int left, CString file, CString tex
 //   texts        the path of the result file, and three names of classes as fields 12 to 14 have
 //                them, with a bar between each; or empty
 //
-// Numbers that mean nothing show nothing, and come back unchanged unless the user changes them. A
-// path gets lower case, and an extension if it has none, once the user has looked for a file.
+// Codes, prefectures, displays, sizes and formats that mean nothing show nothing, and come back
+// unchanged unless the user changes them. A path gets lower case, and an extension if it has none,
+// once the user has looked for a file.
 //
 // Returns 18 fields, ten numbers and eight texts:
 //
-//    1      kind: that of the last page of conditions that was open, else `kind`
+//    1      kind: that of the page of conditions that is open, or that the user opened last; `kind`
+//           if the user opened none, and the display is open
 //    2, 3   file_new and file_format
 //    4 - 7  large (7 for facilities), middle, small and prefecture, as they are passed in. A small
 //           class picked from the list of a class that isn't chosen any more is 60.
@@ -319,11 +321,11 @@ ORRERYUI_EXPORT void OnMemoDisplay(int mode, int left, CString file, CString tex
 //    13     an empty text. Names stay where a code has become -1 because a class above it was
 //    14     picked.
 //    15     mesh
-//    16, 17 code, or what was typed in its place, and name of the prefecture
+//    16, 17 code of the prefecture, or what was typed in its place, and the prefecture's name
 //    18     word
 //
-// With a `kind` other than 0 and 1 and without a page of conditions, fields 4 to 7, 12 to 15 and 18
-// are what was passed in.
+// What was typed in the place of a prefecture isn't among the arguments of the next call. With a
+// field 1 other than 0 and 1, fields 4 to 7, 12 to 15 and 18 are what was passed in.
 ORRERYUI_EXPORT CString OnGnpfRetrieveSet(int view, int file_new, int file_format, int elevation,
                                           int kind, int large, int middle, int small,
                                           int prefecture, CString mesh, CString word,

@@ -5,8 +5,8 @@
 #include <gtest/gtest.h>
 
 #include <fstream>
-#include <set>
 #include <string>
+#include <vector>
 
 #include "platform/strings/code_page_932.h"
 
@@ -14,11 +14,11 @@ namespace orreryui {
 namespace {
 
 TEST(Classes, AreThoseOfTheList) {
-  std::multiset<std::string> table;
+  std::vector<std::string> table;
   // Returns the codes, for the lines of the classes below.
   const auto add = [&](const std::string& above, const auto& one) {
     const std::string codes = above + std::to_string(one.code);
-    table.insert(codes + "\t" + ToUtf8(one.name));
+    table.push_back(codes + "\t" + ToUtf8(one.name));
     return codes + ".";
   };
   const auto add_with_small = [&](const std::string& above, const ClassWithSmall& one) {
@@ -31,9 +31,9 @@ TEST(Classes, AreThoseOfTheList) {
   }
   for (const ClassWithSmall& large : kFacilityClasses) add_with_small("facility ", large);
   for (const CodedName& prefecture : kPrefectures) add("prefecture ", prefecture);
-  std::multiset<std::string> list;
+  std::vector<std::string> list;
   std::ifstream file(ORRERYUI_CLASSES);
-  for (std::string line; std::getline(file, line);) list.insert(line);
+  for (std::string line; std::getline(file, line);) list.push_back(line);
   EXPECT_EQ(table, list);
 }
 
