@@ -98,27 +98,6 @@ TEST_F(Window, FocusSetByAHandlerIsShownAndNotReported) {
   });
 }
 
-TEST_F(Window, DialogsNestFromInsideAGesture) {
-  FakeSession outer;
-  FakeSession inner;
-  outer.Add(ControlKind::kPushButton, 1, "開く");
-  inner.layout.number = 701;
-  inner.Add(ControlKind::kPushButton, 1, "OK");
-  outer.handler = [&](const std::string& gesture) {
-    if (gesture != "click 1") return;
-    RunWithUser(inner, [&](QDialog& window) {
-      EXPECT_EQ(window.objectName(), "701");
-      EXPECT_EQ(window.parentWidget()->window()->objectName(), "700");
-    });
-  };
-  RunWithUser(outer, [&](QDialog& window) {
-    QTest::mouseClick(&ControlWidget<QPushButton>(window, 1), Qt::LeftButton);
-    EXPECT_TRUE(inner.ended);
-    EXPECT_TRUE(window.isVisible());
-    EXPECT_EQ(QApplication::activeModalWidget(), &window);
-  });
-}
-
 TEST_F(Window, EndsWhenTheHostQuitsWhateverIsOpenAboveIt) {
   FakeSession inner;
   inner.handler = [&](const std::string& gesture) { inner.ended = gesture == "escape"; };
@@ -196,7 +175,7 @@ TEST_F(Window, WaitingTakesNoInputAndPaints) {
   });
 }
 
-TEST_F(Window, OpensAtItsPlaceWhereverTheDialogBelowItIs) {
+TEST_F(Window, OpensAtItsPlaceWhateverDialogItOpensFrom) {
   FakeSession at_pixel, at_position;
   at_pixel.layout = {700, "", Placement::kAtPixel, 30, 70, 200, 150};
   at_position.layout = {700, "", Placement::kAtPosition, 10, 20, 200, 150};
@@ -205,7 +184,10 @@ TEST_F(Window, OpensAtItsPlaceWhereverTheDialogBelowItIs) {
     if (gesture != "click 1") return;
     FakeSession nested;
     nested.layout = at_position.layout;
+    nested.layout.number = 701;
     RunWithUser(nested, [](QDialog& window) {
+      EXPECT_EQ(window.objectName(), "701");
+      EXPECT_EQ(window.parentWidget()->window()->objectName(), "700");
       EXPECT_EQ(window.pos(), window.parentWidget()->window()->pos());
     });
   };
@@ -214,6 +196,7 @@ TEST_F(Window, OpensAtItsPlaceWhereverTheDialogBelowItIs) {
     EXPECT_GT(window.pos().x(), 10);
     EXPECT_LT(window.pos().x(), window.pos().y());
     QTest::mouseClick(&ControlWidget<QPushButton>(window, 1), Qt::LeftButton);
+    EXPECT_EQ(QApplication::activeModalWidget(), &window);
   });
 }
 
