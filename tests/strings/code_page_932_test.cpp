@@ -83,7 +83,7 @@ TEST(CodePage932, DecodesBrokenTextByTheLeadByteRule) {
                    "b"),
             "a\uFFFDb");  // an unassigned pair
   EXPECT_EQ(ToUtf8("\x83 A"), "\uFFFD A");
-  EXPECT_EQ(ToUtf8("\x83\n"), "\uFFFD\n");
+  EXPECT_EQ(ToUtf8("\x83\n\x9F?\xE0\xFD\xFC"), "\uFFFD\n\uFFFD?\uFFFD\uF8F1\uFFFD");
   EXPECT_EQ(ToUtf8("\x83\x83"), "ャ");
   EXPECT_EQ(ToUtf8("\x83\x83\x83"), "ャ\uFFFD");
   EXPECT_EQ(ToUtf8("\x81\x7F"), "\uFFFD\x7F");
