@@ -236,9 +236,6 @@ TEST_F(DialogTest, NothingIsDispatchedAfterTheEnd) {
   EXPECT_EQ(Run(), "40 lost; ");
   EXPECT_EQ(code, 7);
   EXPECT_FALSE(dialog.IsDlgButtonChecked(kCheck));
-}
-
-TEST_F(DialogTest, ADialogMayEndAtItsStart) {
   dialog.on_init = [](Recorder& d) { d.End(5); };
   script.OpensDialog(1);
   Run();
