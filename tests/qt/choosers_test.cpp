@@ -38,9 +38,7 @@ class Choosers : public testing::Test {
   FrontEnd& front_end_ = *LoadFrontEnd();
 };
 
-class MessageBoxes : public Choosers {};
-
-TEST_F(MessageBoxes, WarnWithOkAndCancelInJapanese) {
+TEST_F(Choosers, AMessageWarnsWithOkAndCancelInJapanese) {
   ThenInFront([](QWidget& front) {
     auto& box = static_cast<QMessageBox&>(front);
     EXPECT_EQ(box.icon(), QMessageBox::Warning);
@@ -52,9 +50,6 @@ TEST_F(MessageBoxes, WarnWithOkAndCancelInJapanese) {
     QTest::keyClick(&box, Qt::Key_Return);
   });
   EXPECT_EQ(front_end_.ShowMessage("<b>削除しますか？"), MessageBoxAnswer::kOk);
-}
-
-TEST_F(MessageBoxes, EscCloseBoxAndButtonCancel) {
   const std::vector<std::function<void(QMessageBox&)>> ways = {
       [](QMessageBox& box) { QTest::keyClick(&box, Qt::Key_Escape); },
       [](QMessageBox& box) { box.close(); },

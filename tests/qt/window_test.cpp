@@ -19,9 +19,9 @@ using testing::ElementsAre;
 
 class Window : public OnScreen {};
 
-TEST_F(Window, IsNamedTitledAndOfFixedSize) {
+TEST_F(Window, IsNamedTitledAndOfFixedSizeAndShowsTheFocusThatAHandlerSets) {
   session.layout.title = "  凡例";
-  session.Add(ControlKind::kPushButton, 1, "OK");
+  for (int id : {1, 2}) session.Add(ControlKind::kEdit, id);
   Run([&](QDialog& window) {
     EXPECT_EQ(window.objectName(), "700");
     EXPECT_EQ(window.windowTitle(), "  凡例");
@@ -29,9 +29,14 @@ TEST_F(Window, IsNamedTitledAndOfFixedSize) {
     EXPECT_TRUE(window.isModal());
     EXPECT_EQ(session.paints, 1);
     EXPECT_FALSE(window.testAttribute(Qt::WA_QuitOnClose));
+    EXPECT_TRUE(ControlWidget<QLineEdit>(window, 1).hasFocus());
     session.layout.title = "標高";
+    session.layout.focus = 2;
     session.window->RefreshLayout();
     EXPECT_EQ(window.windowTitle(), "標高");
+    EXPECT_TRUE(ControlWidget<QLineEdit>(window, 2).hasFocus());
+    session.Change(2, [](ControlView& view) { view.enabled = false; });
+    EXPECT_THAT(session.Take(), ElementsAre());
   });
 }
 
@@ -61,13 +66,6 @@ TEST_F(Window, EnterEscAndCloseBecomeGesturesAndTheButtonThatEnterPressesStandsO
   });
 }
 
-TEST_F(Window, NothingIsShownWhereTheDialogEndsAtTheStart) {
-  session.on_start = [&] { session.ended = true; };
-  EXPECT_TRUE(LoadFrontEnd()->RunDialog(session));
-  EXPECT_EQ(session.paints, 0);
-  EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
-}
-
 TEST_F(Window, NothingFollowsTheEndOrAGestureThatThrows) {
   for (const bool throws : {false, true}) {
     session = {};
@@ -83,19 +81,9 @@ TEST_F(Window, NothingFollowsTheEndOrAGestureThatThrows) {
       EXPECT_THAT(session.Take(), ElementsAre("click 1"));
     });
   }
-}
-
-TEST_F(Window, FocusSetByAHandlerIsShownAndNotReported) {
-  session.Add(ControlKind::kEdit, 1);
-  session.Add(ControlKind::kEdit, 2);
-  Run([&](QDialog& window) {
-    EXPECT_TRUE(ControlWidget<QLineEdit>(window, 1).hasFocus());
-    session.layout.focus = 2;
-    session.window->RefreshLayout();
-    EXPECT_TRUE(ControlWidget<QLineEdit>(window, 2).hasFocus());
-    session.Change(2, [](ControlView& view) { view.enabled = false; });
-    EXPECT_THAT(session.Take(), ElementsAre());
-  });
+  session.on_start = [&] { session.ended = true; };
+  EXPECT_TRUE(LoadFrontEnd()->RunDialog(session));
+  EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
 }
 
 TEST_F(Window, EndsWhenTheHostQuitsWhateverIsOpenAboveIt) {
