@@ -17,15 +17,12 @@ bool Contains(const DialogRect& a, const DialogRect& b) {
          a.y + a.height >= b.y + b.height;
 }
 
-class TemplateTest : public testing::TestWithParam<const DialogTemplate*> {
- protected:
-  const DialogTemplate& dialog_template = *GetParam();
-};
+class TemplateTest : public testing::TestWithParam<const DialogTemplate*> {};
 
 TEST_P(TemplateTest, NumbersAreUniqueAndRadioButtonsStandInGroupsThatBegin) {
   std::set<int> ids;
   ControlKind before = ControlKind::kStatic;
-  for (const ControlTemplate& control : dialog_template.controls) {
+  for (const ControlTemplate& control : GetParam()->controls) {
     EXPECT_TRUE(control.id == kNoControlId || ids.insert(control.id).second) << control.id;
     const bool begins =
         control.kind == ControlKind::kRadioButton && before != ControlKind::kRadioButton;
@@ -35,8 +32,8 @@ TEST_P(TemplateTest, NumbersAreUniqueAndRadioButtonsStandInGroupsThatBegin) {
 }
 
 TEST_P(TemplateTest, ControlsLieInsideAndApart) {
-  const DialogRect whole{0, 0, dialog_template.width, dialog_template.height};
-  const auto controls = dialog_template.controls;
+  const DialogRect whole{0, 0, GetParam()->width, GetParam()->height};
+  const auto controls = GetParam()->controls;
   for (std::size_t i = 0; i < controls.size(); ++i) {
     const DialogRect& place = controls[i].place;
     EXPECT_GT(place.width, 0) << controls[i].id;

@@ -6,10 +6,8 @@
 #include <string>
 #include <utility>
 
-#include "front_ends/script/script_front_end.h"
 #include "platform/dialogs/dialog.h"
-#include "platform/dialogs/front_end_loader.h"
-#include "platform/strings/code_page_932.h"
+#include "tests/support/play.h"
 
 namespace orreryui {
 namespace {
@@ -46,19 +44,14 @@ class Box : public CDialog {
  public:
   explicit Box(const std::string& text) : CDialog(kTemplate), text_(FromUtf8(text).bytes.c_str()) {}
 
-  void Play(const std::function<void(ControlSession&)>& steps) {
+  void Show(const std::function<void(ControlSession&)>& steps) {
     ScriptFrontEnd script;
     script.OpensDialog(1).Does([&](ControlSession& session) {
       steps(session);
       return "";
     });
-    script.Escape();
-    ScopedFrontEnd scope(&script);
-    DoModal();
-    EXPECT_EQ(script.Failures(), "");
+    Play(script.Escape(), [this] { return DoModal(); });
   }
-
-  std::string Text() const { return ToUtf8(GetDlgItemText(kBox)); }
 
  private:
   void OnInitDialog() override { SetDlgItemText(kBox, text_); }
@@ -66,11 +59,9 @@ class Box : public CDialog {
   CString text_;
 };
 
-ControlView Look(const ControlSession& session) { return session.Control(1); }
-
 TEST(TextPart, ScrollingShowsTheLinesAroundAndMovesNoFocus) {
-  Box(Lines(0, kLines)).Play([](ControlSession& session) {
-    EXPECT_EQ(Look(session).text, Part(0, kLinesOfPart));
+  Box(Lines(0, kLines)).Show([](ControlSession& session) {
+    EXPECT_EQ(ControlOf(session, kBox).text, Part(0, kLinesOfPart));
     const int half = kLinesOfPart / 2;
     const int last = kLines + 1 - kLinesOfPart;
     const std::pair<int, int> visits[] = {
@@ -79,7 +70,7 @@ TEST(TextPart, ScrollingShowsTheLinesAroundAndMovesNoFocus) {
         {INT_MIN, 0}};
     for (const auto& [line, first] : visits) {
       session.Scroll(kBox, line);
-      const ControlView view = Look(session);
+      const ControlView view = ControlOf(session, kBox);
       EXPECT_EQ(Numbers(view.part), Numbers({first, kLinesOfPart, kLines + 1})) << line;
       const bool at_end = first == last;
       const std::string text = at_end ? Lines(first, kLines) : Part(first, kLinesOfPart);
@@ -93,26 +84,28 @@ TEST(TextPart, ScrollingShowsTheLinesAroundAndMovesNoFocus) {
 
 TEST(TextPart, TypingChangesThePartAndNothingElse) {
   Box box(Lines(0, kLines));
-  box.Play([](ControlSession& session) {
+  box.Show([](ControlSession& session) {
     session.Scroll(kBox, 50000);
-    const TextPart before = Look(session).part;
-    const std::string part = Look(session).text;
+    const TextPart before = ControlOf(session, kBox).part;
+    const std::string part = ControlOf(session, kBox).text;
     EXPECT_EQ(session.Type(kBox, "新\r\n" + part + "\r\n😀行").refused, "😀");
-    EXPECT_EQ(Look(session).text, "新\r\n" + part + "\r\n行");
-    EXPECT_EQ(Numbers(Look(session).part),
+    EXPECT_EQ(ControlOf(session, kBox).text, "新\r\n" + part + "\r\n行");
+    EXPECT_EQ(Numbers(ControlOf(session, kBox).part),
               Numbers({before.first, before.count + 2, before.all + 2}));
     dynamic_cast<DialogSession&>(session).Enter();
-    EXPECT_EQ(Look(session).text, "新\r\n" + part + "\r\n行\r\n");
+    EXPECT_EQ(ControlOf(session, kBox).text, "新\r\n" + part + "\r\n行\r\n");
     session.Scroll(kBox, 50000);
-    EXPECT_EQ(Look(session).part.count, kLinesOfPart);
+    EXPECT_EQ(ControlOf(session, kBox).part.count, kLinesOfPart);
     session.Scroll(kBox, 0);
     session.Type(kBox, "");
-    EXPECT_EQ(Numbers(Look(session).part), Numbers({0, 1, before.all + 4 - kLinesOfPart}));
+    EXPECT_EQ(Numbers(ControlOf(session, kBox).part),
+              Numbers({0, 1, before.all + 4 - kLinesOfPart}));
   });
   const int first = 50000 - kLinesOfPart / 2;
   const int behind = first + kLinesOfPart;
-  EXPECT_TRUE(box.Text() == "\r\n" + Lines(kLinesOfPart, first) + "新\r\n" + Lines(first, behind) +
-                                "行\r\n\r\n" + Lines(behind, kLines));
+  EXPECT_TRUE(ToUtf8(box.GetDlgItemText(kBox)) == "\r\n" + Lines(kLinesOfPart, first) + "新\r\n" +
+                                                      Lines(first, behind) + "行\r\n\r\n" +
+                                                      Lines(behind, kLines));
 }
 
 TEST(TextPart, ATextIsWholeUnlessItIsLongInBytesAndInLines) {
@@ -121,16 +114,16 @@ TEST(TextPart, ATextIsWholeUnlessItIsLongInBytesAndInLines) {
   const std::pair<std::string, int> cases[] = {
       {"", 1}, {"\r\n", 2}, {empty_lines, 1 << 20 | 1}, {megabyte + "\n" + megabyte, 2}};
   for (const auto& [text, lines] : cases) {
-    Box(text).Play([&, text = text, lines = lines](ControlSession& session) {
-      EXPECT_TRUE(Look(session).text == text);
-      EXPECT_EQ(Look(session).part.all, lines);
+    Box(text).Show([&, text = text, lines = lines](ControlSession& session) {
+      EXPECT_TRUE(ControlOf(session, kBox).text == text);
+      EXPECT_EQ(ControlOf(session, kBox).part.all, lines);
     });
   }
-  Box("\n\r\n" + empty_lines).Play([&](ControlSession& session) {
-    EXPECT_EQ(Numbers(Look(session).part), Numbers({0, kLinesOfPart, (1 << 20) + 3}));
-    EXPECT_EQ(Look(session).text, "\n\r\n" + std::string(kLinesOfPart - 3, '\n'));
+  Box("\n\r\n" + empty_lines).Show([&](ControlSession& session) {
+    EXPECT_EQ(Numbers(ControlOf(session, kBox).part), Numbers({0, kLinesOfPart, (1 << 20) + 3}));
+    EXPECT_EQ(ControlOf(session, kBox).text, "\n\r\n" + std::string(kLinesOfPart - 3, '\n'));
     session.Scroll(kBox, 1 << 19);
-    EXPECT_EQ(Look(session).text, std::string(kLinesOfPart - 1, '\n'));
+    EXPECT_EQ(ControlOf(session, kBox).text, std::string(kLinesOfPart - 1, '\n'));
   });
 }
 

@@ -53,12 +53,6 @@ TEST_F(HostWindowTest, PassesInWhatTheLastCallHandedBack) {
   EXPECT_EQ(Editor("SELECTED").text(), "1");
   EXPECT_EQ(Editor("COMMON-AREA").text(), "off");
 
-  Choose("OnRengeConfirm");
-  Choose("OnDataSourceSet");
-  CallAndPlay({{data_source::kTemplate.number, [](Hand& hand) { hand.Click(IDOK); }}});
-  EXPECT_EQ(FieldValue(0), "1");
-  EXPECT_EQ(FieldValue(1), "off");
-
   Choose("OnRouteInformation");
   const auto pick_map = [](Hand& hand) {
     hand.PickFromList(route_select::kMaps, 0);

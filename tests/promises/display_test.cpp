@@ -123,8 +123,6 @@ class Display : public Promise {
   }
 };
 
-TEST_F(Display, EscapeDropsTheRange) { EXPECT_EQ(Confirm(), -1); }
-
 TEST_F(Display, TheFirstButtonIsPressed) {
   LeaveDescriptors(10);
   EXPECT_EQ(Confirm(), 1);

@@ -17,8 +17,6 @@ namespace {
 
 bool makes_threads = true;
 
-class NoWindow : public Promise {};
-
 }  // namespace
 }  // namespace orreryui
 
@@ -37,22 +35,12 @@ namespace {
 // A server that lets clients connect and never says a word to them.
 class SilentServer {
  public:
-  // Listens on a port of the loopback interface that can be the port of a display.
-  static SilentServer OnDisplayPort() {
-    sockaddr_in address{};
-    address.sin_family = AF_INET;
-    address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
-    return SilentServer(AF_INET, reinterpret_cast<const sockaddr*>(&address), sizeof address);
+  template <class Address>
+  SilentServer(sa_family_t family, const Address& address)
+      : socket_(socket(family, SOCK_STREAM | SOCK_CLOEXEC, 0)) {
+    EXPECT_EQ(bind(socket_, reinterpret_cast<const sockaddr*>(&address), sizeof address), 0);
+    EXPECT_EQ(listen(socket_, 16), 0);
   }
-
-  static SilentServer OnPath(const std::string& path) {
-    sockaddr_un address{};
-    address.sun_family = AF_UNIX;
-    path.copy(address.sun_path, sizeof address.sun_path - 1);
-    unlink(path.c_str());
-    return SilentServer(AF_UNIX, reinterpret_cast<const sockaddr*>(&address), sizeof address);
-  }
-
   ~SilentServer() { close(socket_); }
   SilentServer(const SilentServer&) = delete;
   SilentServer& operator=(const SilentServer&) = delete;
@@ -65,20 +53,16 @@ class SilentServer {
   }
 
  private:
-  SilentServer(int family, const sockaddr* address, socklen_t size)
-      : socket_(socket(family, SOCK_STREAM | SOCK_CLOEXEC, 0)) {
-    EXPECT_EQ(bind(socket_, address, size), 0);
-    EXPECT_EQ(listen(socket_, 16), 0);
-  }
-
-  int socket_;
+  const int socket_;
 };
+
+class NoWindow : public Promise {};
 
 TEST_F(NoWindow, WithoutADisplay) { ExpectNoDialog(); }
 
 TEST_F(NoWindow, OnADisplayThatNeverAnswers) {
   constexpr int kFirstDisplayPort = 6000;
-  const SilentServer server = SilentServer::OnDisplayPort();
+  const SilentServer server(AF_INET, sockaddr_in{AF_INET, 0, {htonl(INADDR_LOOPBACK)}, {}});
   setenv("DISPLAY", ("127.0.0.1:" + std::to_string(server.Port() - kFirstDisplayPort)).c_str(), 1);
   const auto start = std::chrono::steady_clock::now();
   ExpectNoDialog();
@@ -87,7 +71,9 @@ TEST_F(NoWindow, OnADisplayThatNeverAnswers) {
 
 TEST_F(NoWindow, OnAWaylandSocketThatNeverAnswers) {
   const std::string path = testing::TempDir() + "/silent-" + std::to_string(getpid());
-  const SilentServer server = SilentServer::OnPath(path);
+  sockaddr_un address{AF_UNIX, {}};
+  path.copy(address.sun_path, sizeof address.sun_path - 1);
+  const SilentServer server(AF_UNIX, address);
   setenv("WAYLAND_DISPLAY", path.c_str(), 1);
   ExpectNoDialog();
   unlink(path.c_str());

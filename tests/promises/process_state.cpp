@@ -24,64 +24,39 @@ std::string Members(const sigset_t& signals) {
   return members;
 }
 
-std::vector<std::string> Environment() {
-  std::vector<std::string> entries;
-  for (char** entry = environ; entry && *entry; ++entry) entries.emplace_back(*entry);
-  std::sort(entries.begin(), entries.end());
-  return entries;
-}
-
 // Set by the C library on each action that goes through it; it changes nothing.
 constexpr int kRestorerFlag = 0x04000000;
 
-std::map<int, std::string> SignalActions() {
-  std::map<int, std::string> actions;
-  for (int number = 1; number <= SIGRTMAX; ++number) {
-    struct sigaction action {};
-    if (sigaction(number, nullptr, &action) != 0) continue;
-    actions[number] = "handler " +
-                      std::to_string(reinterpret_cast<std::uintptr_t>(action.sa_handler)) +
-                      ", flags " + std::to_string(action.sa_flags & ~kRestorerFlag) + ", blocks" +
-                      Members(action.sa_mask);
-  }
-  return actions;
-}
-
-// What only one of two sorted lists holds. An environment may hold secrets, so no more of it is
-// printed than that.
-std::vector<std::string> Differing(const std::vector<std::string>& one,
-                                   const std::vector<std::string>& other) {
-  std::vector<std::string> differing;
-  std::set_symmetric_difference(one.begin(), one.end(), other.begin(), other.end(),
-                                std::back_inserter(differing));
-  return differing;
+std::string ActionOf(int number) {
+  struct sigaction action {};
+  sigaction(number, nullptr, &action);
+  return "signal " + std::to_string(number) + ": handler " +
+         std::to_string(reinterpret_cast<std::uintptr_t>(action.sa_handler)) + ", flags " +
+         std::to_string(action.sa_flags & ~kRestorerFlag) + ", blocks" + Members(action.sa_mask);
 }
 
 }  // namespace
 
 ProcessState CurrentState() {
-  ProcessState state;
-  state.locale = setlocale(LC_ALL, nullptr);
-  state.folder = std::filesystem::current_path().string();
-  state.file_mask = umask(0);
-  umask(state.file_mask);
-  state.environment = Environment();
-  state.signal_actions = SignalActions();
+  const mode_t file_mask = umask(0);
+  umask(file_mask);
   sigset_t blocked{};
   sigprocmask(SIG_SETMASK, nullptr, &blocked);
-  state.blocked_signals = Members(blocked);
+  ProcessState state = {std::string("locale ") + setlocale(LC_ALL, nullptr),
+                        "folder " + std::filesystem::current_path().string(),
+                        "file mask " + std::to_string(file_mask), "blocked" + Members(blocked)};
+  for (int number = 1; number <= SIGRTMAX; ++number) state.push_back(ActionOf(number));
+  for (char** entry = environ; entry && *entry; ++entry) state.emplace_back(*entry);
+  std::sort(state.begin(), state.end());
   return state;
 }
 
+// An environment may hold secrets, so no more of it is printed than what differs.
 void ExpectSame(const ProcessState& before, const ProcessState& after) {
-  EXPECT_EQ(before.locale, after.locale);
-  EXPECT_EQ(before.folder, after.folder);
-  EXPECT_EQ(before.file_mask, after.file_mask);
-  EXPECT_EQ(Differing(before.environment, after.environment), std::vector<std::string>());
-  for (const auto& [number, action] : before.signal_actions) {
-    EXPECT_EQ(action, after.signal_actions.at(number)) << "signal " << number;
-  }
-  EXPECT_EQ(before.blocked_signals, after.blocked_signals);
+  ProcessState differing;
+  std::set_symmetric_difference(before.begin(), before.end(), after.begin(), after.end(),
+                                std::back_inserter(differing));
+  EXPECT_EQ(differing, ProcessState());
 }
 
 Holdings CurrentHoldings() {

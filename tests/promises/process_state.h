@@ -2,26 +2,17 @@
 #ifndef ORRERYUI_TESTS_PROMISES_PROCESS_STATE_H_
 #define ORRERYUI_TESTS_PROMISES_PROCESS_STATE_H_
 
-#include <sys/types.h>
-
-#include <map>
 #include <string>
 #include <vector>
 
 namespace orreryui {
 
-struct ProcessState {
-  std::string locale;
-  std::string folder;
-  mode_t file_mask = 0;
-  std::vector<std::string> environment;       // sorted
-  std::map<int, std::string> signal_actions;  // what each signal does
-  std::string blocked_signals;
-};
+// The locale, the folder, the file mask, the signals and the environment: sorted, a text for each.
+using ProcessState = std::vector<std::string>;
 
 ProcessState CurrentState();
 
-// A failure of the running test for each part that differs.
+// A failure of the running test that names what differs.
 void ExpectSame(const ProcessState& before, const ProcessState& after);
 
 // What a process holds that must not grow with the number of calls.

@@ -35,16 +35,23 @@ TEST_F(Buttons, LabelsAreOnlyTextAndAGroupBoxLetsClicksThrough) {
   });
 }
 
-TEST_F(Buttons, PressMovesTheFocusAndReleaseClicks) {
-  session.Add(ControlKind::kPushButton, 1, "一");
-  session.Add(ControlKind::kPushButton, 2, "二");
-  RunAt<QPushButton>(2, [&](QPushButton& second) {
+TEST_F(Buttons, PressMovesTheFocusAndReleaseClicksWhatIsInReach) {
+  for (int id : {1, 2, 3}) session.Add(ControlKind::kPushButton, id, "押");
+  session.At(3).enabled = false;
+  session.At(3).visible = false;
+  Run([&](QDialog& window) {
+    auto& second = ControlWidget<QPushButton>(window, 2);
+    auto& third = ControlWidget<QPushButton>(window, 3);
     QTest::mousePress(&second, Qt::LeftButton);
     EXPECT_THAT(session.Take(), ElementsAre("focus 2"));
     QTest::mouseRelease(&second, Qt::LeftButton);
     EXPECT_THAT(session.Take(), ElementsAre("click 2"));
     QTest::keyClick(&second, Qt::Key_Space);
     EXPECT_THAT(session.Take(), ElementsAre("click 2"));
+    EXPECT_FALSE(third.isVisible());
+    session.Change(3, [](ControlView& view) { view.visible = true; });
+    EXPECT_TRUE(third.isVisible());
+    EXPECT_FALSE(third.isEnabled());
   });
 }
 
@@ -134,20 +141,6 @@ TEST_F(Buttons, SwatchShowsColourAndFrame) {
     EXPECT_EQ(picture.pixelColor(0, 0), QColor(0, 0, 255));
     QTest::mouseClick(&swatch, Qt::LeftButton);
     EXPECT_THAT(session.Take(), ElementsAre("click 1"));
-  });
-}
-
-TEST_F(Buttons, HiddenAndDisabledFollowTheModel) {
-  session.Add(ControlKind::kPushButton, 1, "一").enabled = false;
-  session.Add(ControlKind::kPushButton, 2, "二").visible = false;
-  Run([&](QDialog& window) {
-    auto& first = ControlWidget<QPushButton>(window, 1);
-    QTest::mouseClick(&first, Qt::LeftButton);
-    EXPECT_FALSE(first.isEnabled());
-    EXPECT_FALSE(ControlWidget<QPushButton>(window, 2).isVisible());
-    session.Change(2, [](ControlView& view) { view.visible = true; });
-    EXPECT_TRUE(ControlWidget<QPushButton>(window, 2).isVisible());
-    EXPECT_THAT(session.Take(), ElementsAre());
   });
 }
 

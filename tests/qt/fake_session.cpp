@@ -80,8 +80,6 @@ void FakeSession::Scroll(int id, int line) {
   Record(Name("scroll", id) + ' ' + std::to_string(line));
 }
 
-void FakeSession::Escape() { Record("escape"); }
-
 void FakeSession::Paint() {
   ++paints;
   if (handler) handler("paint");

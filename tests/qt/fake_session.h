@@ -52,7 +52,7 @@ class FakeSession : public DialogSession {
   void DoubleClick(int id, int row) override;
   void Scroll(int id, int line) override;
   void Enter() override { Record("enter"); }
-  void Escape() override;
+  void Escape() override { Record("escape"); }
   void Paint() override;
 
  protected:

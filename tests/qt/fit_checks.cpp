@@ -2,33 +2,28 @@
 
 #include <gtest/gtest.h>
 
+#include <QAbstractButton>
+#include <QGroupBox>
 #include <QStyleOptionButton>
 #include <QStyleOptionGroupBox>
 
 namespace orreryui {
 namespace {
 
-QSize LabelRoom(const QAbstractButton& button, QStyle::SubElement part) {
-  QStyleOptionButton option;
-  option.initFrom(&button);
-  return button.style()->subElementRect(part, &option, &button).size();
+// The part of a button that its style leaves for the label.
+QStyle::SubElement LabelPart(const QAbstractButton& button) {
+  if (button.inherits("QCheckBox")) return QStyle::SE_CheckBoxContents;
+  if (button.inherits("QRadioButton")) return QStyle::SE_RadioButtonContents;
+  return QStyle::SE_PushButtonContents;
 }
 
-}  // namespace
-
-void ExpectRoomForLabel(const QAbstractButton& button, QStyle::SubElement part) {
-  const QSize room = LabelRoom(button, part);
+void ExpectRoomForLabel(const QAbstractButton& button) {
+  QStyleOptionButton option;
+  option.initFrom(&button);
+  const QRect room = button.style()->subElementRect(LabelPart(button), &option, &button);
   const QSize text = button.fontMetrics().size(Qt::TextShowMnemonic, button.text());
   EXPECT_LE(text.width(), room.width()) << button.text().toStdString();
   EXPECT_LE(text.height(), button.height()) << button.text().toStdString();
-}
-
-void ExpectRoomForText(const QLabel& label) {
-  EXPECT_FALSE(label.wordWrap());
-  const QSize text = label.fontMetrics().size(0, label.text());
-  EXPECT_LE(text.width(), label.width()) << label.text().toStdString();
-  EXPECT_LE(text.height(), label.height()) << label.text().toStdString();
-  EXPECT_EQ(label.toolTip(), "") << "the text was shortened";
 }
 
 void ExpectRoomForTitle(const QGroupBox& box) {
@@ -44,12 +39,33 @@ void ExpectRoomForTitle(const QGroupBox& box) {
   EXPECT_LE(text.width(), place.width()) << box.title().toStdString();
 }
 
-void ExpectRoomForControls(const QWidget& page) {
-  for (const QWidget* control :
-       page.findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly)) {
-    EXPECT_TRUE(page.rect().contains(control->geometry()))
-        << control->objectName().toStdString() << " on " << page.objectName().toStdString();
+// Returns how many of the widgets have a text; `check` is called with each of these.
+template <class Widget>
+int ForEachText(const QWidget& dialog, QString (Widget::*text)() const,
+                void (*check)(const Widget&)) {
+  int count = 0;
+  for (const Widget* widget : dialog.findChildren<Widget*>()) {
+    if ((widget->*text)().isEmpty()) continue;
+    check(*widget);
+    ++count;
   }
+  return count;
+}
+
+}  // namespace
+
+void ExpectRoomForText(const QLabel& label) {
+  EXPECT_FALSE(label.wordWrap());
+  const QSize text = label.fontMetrics().size(0, label.text());
+  EXPECT_LE(text.width(), label.width()) << label.text().toStdString();
+  EXPECT_LE(text.height(), label.height()) << label.text().toStdString();
+  EXPECT_EQ(label.toolTip(), "") << "the text was shortened";
+}
+
+int ExpectNothingCut(const QWidget& dialog) {
+  return ForEachText(dialog, &QAbstractButton::text, ExpectRoomForLabel) +
+         ForEachText(dialog, &QLabel::text, ExpectRoomForText) +
+         ForEachText(dialog, &QGroupBox::title, ExpectRoomForTitle);
 }
 
 }  // namespace orreryui

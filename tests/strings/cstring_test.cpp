@@ -14,31 +14,13 @@ constexpr char kBlank[] = "\x81\x40";
 constexpr char kSo[] = "\x83\x5C";
 constexpr char kKatakanaA[] = "\x83\x41";
 
-TEST(CharacterLength, ALeadByteTakesOnlyATrailByteWithIt) {
-  EXPECT_EQ(CharacterLength('\x81', '\x40'), 2);
-  EXPECT_EQ(CharacterLength('\x9F', '\xFC'), 2);
-  EXPECT_EQ(CharacterLength('\xE0', '\x80'), 2);
-  EXPECT_EQ(CharacterLength('\xFC', '\x7E'), 2);
-  for (const char next : {'\0', ' ', '#', '$', '\r', '\n', '\x3F', '\x7F', '\xFD'}) {
-    EXPECT_EQ(CharacterLength('\x83', next), 1) << int{next};
-  }
-  for (const char first : {'A', '\x80', '\xA0', '\xB1', '\xDF', '\xFD', '\xFF'}) {
-    EXPECT_EQ(CharacterLength(first, '\x40'), 1) << int{first};
-  }
-}
-
 TEST(CString, IsMadeFromText) {
   EXPECT_TRUE(CString().IsEmpty());
-  EXPECT_STREQ(CString(), "");
   EXPECT_TRUE(CString(nullptr).IsEmpty());
-  EXPECT_TRUE(CString("").IsEmpty());
-  EXPECT_EQ(CString(kSo).GetLength(), 2);
   EXPECT_STREQ(CString("abc", 2), "ab");
-  EXPECT_TRUE(CString("abc", 0).IsEmpty());
   EXPECT_TRUE(CString("abc", -1).IsEmpty());
   EXPECT_TRUE(CString(nullptr, 3).IsEmpty());
   EXPECT_EQ(CString("ab\0cd", 5).GetLength(), 2);
-  EXPECT_EQ(CString("abc")[2], 'c');
   EXPECT_EQ(CString("abc")[3], '\0');
 }
 
@@ -52,8 +34,6 @@ TEST(CString, CopiesAreIndependentAndMovesLeaveNothing) {
   EXPECT_TRUE(copy.IsEmpty());
   copy = first;
   EXPECT_EQ(copy, first);
-  copy = nullptr;
-  EXPECT_TRUE(copy.IsEmpty());
   first.Empty();
   EXPECT_TRUE(first.IsEmpty());
 }
@@ -65,8 +45,6 @@ TEST(CString, MayBeAssignedAndAppendedToItself) {
   EXPECT_EQ(text, "abc");
   text = static_cast<const char*>(text) + 1;
   EXPECT_EQ(text, "bc");
-  for (int i = 0; i < 6; ++i) text += text;
-  EXPECT_EQ(text.GetLength(), 128);
   text = "xyz";
   for (int i = 0; i < 3; ++i) text += static_cast<const char*>(text) + 1;
   EXPECT_EQ(text, "xyzyzyzyzyzyzyzyz");
@@ -92,7 +70,6 @@ TEST(CString, IsJoinedAndCompared) {
 TEST(CString, CutsByBytesWithinItsEnds) {
   const CString text("abcdef");
   EXPECT_EQ(text.Mid(2), "cdef");
-  EXPECT_EQ(text.Mid(6), "");
   EXPECT_EQ(text.Mid(7), "");
   EXPECT_EQ(text.Mid(-3), "abcdef");
   EXPECT_EQ(text.Mid(2, 3), "cde");
@@ -100,10 +77,7 @@ TEST(CString, CutsByBytesWithinItsEnds) {
   EXPECT_EQ(text.Mid(4, INT_MAX), "ef");
   EXPECT_EQ(text.Mid(INT_MAX, INT_MAX), "");
   EXPECT_EQ(text.Mid(2, -1), "");
-  EXPECT_EQ(text.Left(2), "ab");
-  EXPECT_EQ(text.Left(9), "abcdef");
   EXPECT_EQ(text.Left(-1), "");
-  EXPECT_EQ(text.Right(2), "ef");
   EXPECT_EQ(text.Right(9), "abcdef");
   EXPECT_EQ(text.Right(INT_MIN), "");
   EXPECT_EQ(CString(kSo).Mid(1), "\\");
@@ -115,18 +89,11 @@ TEST(CString, FindsWholeCharactersOnly) {
   EXPECT_EQ(text.Find('\\'), 7);
   EXPECT_EQ(text.Find("@y"), 5);
   EXPECT_EQ(text.Find(kSo), 2);
-  EXPECT_EQ(text.Find("z"), -1);
   EXPECT_EQ(text.Find('\x83'), -1);
   EXPECT_EQ(text.Find('\0'), -1);
   EXPECT_EQ(text.Find(""), 0);
-  EXPECT_EQ(CString().Find("a"), -1);
-  EXPECT_EQ(CString().Find('a'), -1);
-}
-
-TEST(CString, FindRespectsCharactersAtBothEndsOfTheText) {
-  const CString text = CString("a") + kKatakanaA;
-  EXPECT_EQ(text.Find("a\x83"), -1);
-  EXPECT_EQ(text.Find("A"), -1);
+  EXPECT_EQ((CString("a") + kKatakanaA).Find("a\x83"), -1);
+  EXPECT_EQ((CString("a") + kKatakanaA).Find("A"), -1);
   EXPECT_EQ(CString("\x83 a").Find(' '), 1);  // a lead byte without its trail byte
   EXPECT_EQ(CString("a\x83").Find('\x83'), 1);
   EXPECT_EQ(CString("aab").Find("ab"), 1);
@@ -139,9 +106,6 @@ TEST(CString, ChangesTheCaseOfLettersOnly) {
   EXPECT_EQ(text, CString("az@[`{") + kKatakanaA + "\x83\x61\x83\xB1" + "z");
   text.MakeUpper();
   EXPECT_EQ(text, CString("AZ@[`{") + kKatakanaA + "\x83\x61\x83\xB1" + "Z");
-  CString nothing;
-  nothing.MakeLower();
-  EXPECT_TRUE(nothing.IsEmpty());
 }
 
 TEST(CString, FormatReplacesTheContent) {
@@ -150,8 +114,6 @@ TEST(CString, FormatReplacesTheContent) {
   EXPECT_EQ(text, CString("-7|") + kSo + "|");
   text.Format("%500d", 1);
   EXPECT_EQ(text.GetLength(), 500);
-  text.Format("%s", "");
-  EXPECT_TRUE(text.IsEmpty());
   text.Format("%c", 0);
   EXPECT_TRUE(text.IsEmpty());
   text.Format("a%cb", 0);
