@@ -185,7 +185,9 @@ bool LeadsOut(const char* path) {
 }
 
 std::string RefusedInPath(const std::string& native) {
-  if (native.find('\\') != std::string::npos) return "\\";
+  for (const char* const reserved : {"\\", "|"}) {
+    if (native.find(reserved) != std::string::npos) return reserved;
+  }
   return FromUtf8(native).refused;
 }
 

@@ -61,7 +61,7 @@ bool LeadsOut(const char* path);
 
 // The way back, for a path that the file system or a file chooser gave: `\` separates in the
 // result, and NativePath finds the file again. Nothing if the path has a character that the code
-// page lacks, or a backslash within a name.
+// page lacks, a backslash within a name, or a bar, which divides the fields of results.
 std::optional<std::string> PathFromNative(const std::string& native);
 
 // The characters of a native path that PathFromNative has no path for; empty if it has one.

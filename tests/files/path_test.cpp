@@ -117,6 +117,7 @@ TEST_F(PathTest, TheWayBackLeadsToTheSameFile) {
   EXPECT_EQ(RefusedInPath("/tmp/鎌倉.txt"), "");
   EXPECT_EQ(RefusedInPath("/tmp/a😀.txt"), "😀");
   EXPECT_EQ(RefusedInPath("/tmp/a\\b.txt"), "\\");
+  EXPECT_EQ(RefusedInPath("/tmp/a|ポ.txt"), "|");
   EXPECT_FALSE(PathFromNative("/tmp/😀.txt"));
   EXPECT_FALSE(PathFromNative("/tmp/a\\b.txt"));
   EXPECT_FALSE(PathFromNative("/tmp/\xFF.txt"));
