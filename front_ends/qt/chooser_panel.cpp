@@ -62,6 +62,12 @@ void ChooserPanel::OrderTabs() {
 void ChooserPanel::Listen() {
   connect(rows_->selectionModel(), &QItemSelectionModel::selectionChanged, this,
           &ChooserPanel::ReportSelection);
+  for (const auto* rows : chooser_.findChildren<QAbstractItemView*>()) {
+    if (rows->selectionModel() != rows_->selectionModel()) continue;
+    connect(rows, &QAbstractItemView::clicked, this, [this] {
+      if (selected_by_name_) ReportSelection();
+    });
+  }
   connect(files_, &QFileSystemModel::rootPathChanged, this,
           [this] { Report([this] { session_.ChangeFolder(); }); });
   // Qt has labelled the button by what is selected or typed.
@@ -71,10 +77,11 @@ void ChooserPanel::Listen() {
 }
 
 // A name that is typed selects its row as well, and so does one that the chooser itself completes.
+// A click on that row then changes no selection.
 void ChooserPanel::ReportSelection() {
   const QModelIndexList selected = rows_->selectionModel()->selectedRows();
-  const bool by_name = quiet() || name_->hasFocus();
-  if (!by_name && selected.size() == 1 && !files_->isDir(selected.front())) {
+  selected_by_name_ = quiet() || name_->hasFocus();
+  if (!selected_by_name_ && selected.size() == 1 && !files_->isDir(selected.front())) {
     Report([&] { session_.SelectFile(ToUtf8(files_->filePath(selected.front()))); });
   }
 }

@@ -49,6 +49,7 @@ class ChooserPanel : public QObject, public PaneFrame {
   QFileSystemModel* files_;
   QTreeView* rows_;
   QLineEdit* name_;
+  bool selected_by_name_ = false;
 };
 
 }  // namespace orreryui

@@ -301,6 +301,8 @@ TEST_F(FilePanel, HearsOfTheRowsOfFilesAndOfFoldersAndNotOfNames) {
     QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Escape);
     EXPECT_EQ(name->text(), "a.txt");
     expect({});
+    ClickRow(front, "a.txt");
+    expect({"file " + InFolder("a.txt")});
     ClickRow(front, "b.txt");
     expect({"file " + InFolder("b.txt")});
     ClickRow(front, "c");
