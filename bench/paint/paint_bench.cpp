@@ -9,6 +9,7 @@
 #include <time.h>
 
 #include <QAbstractButton>
+#include <QAbstractScrollArea>
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
@@ -53,6 +54,7 @@ struct Recipe {
   QStringList items;
   QList<QStringList> rows;
   bool wraps = false;
+  Qt::ScrollBarPolicy vertical_bar = Qt::ScrollBarAsNeeded;
   bool visible = true;
 };
 
@@ -75,6 +77,9 @@ Recipe RecipeOf(const QWidget& widget, const QWidget& window) {
   recipe.class_name = QtClassOf(widget);
   recipe.place = {widget.mapTo(&window, QPoint(0, 0)), widget.size()};
   recipe.visible = widget.isVisibleTo(&window);
+  if (const auto* area = qobject_cast<const QAbstractScrollArea*>(&widget)) {
+    recipe.vertical_bar = area->verticalScrollBarPolicy();
+  }
   if (const auto* combo = qobject_cast<const QComboBox*>(&widget)) {
     for (int i = 0; i < combo->count(); ++i) recipe.items << combo->itemText(i);
     recipe.text = combo->currentText();
@@ -157,6 +162,9 @@ void RunBareDialog(const DialogRecipe& recipe) {
   dialog.setObjectName("bare");
   for (const Recipe& widget : recipe.widgets) {
     QWidget* made = Make(widget, &dialog);
+    if (auto* area = qobject_cast<QAbstractScrollArea*>(made)) {
+      area->setVerticalScrollBarPolicy(widget.vertical_bar);
+    }
     made->setGeometry(widget.place);
     made->setVisible(widget.visible);
   }
@@ -282,7 +290,8 @@ class Content {
       text << static_cast<char>('a' + character % 26);
     }
   }
-  std::string path(const char* name) const { return folder_.filePath(name).toStdString(); }
+  // In the folder, which itself has its separator behind it.
+  std::string path(const char* name) const { return folder_.path().toStdString() + "/" + name; }
 
  private:
   QTemporaryDir folder_;
