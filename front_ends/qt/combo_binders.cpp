@@ -20,10 +20,29 @@ class DropDown : public QComboBox {
  public:
   using QComboBox::QComboBox;
 
+  void showPopup() override {
+    WidenList();
+    QComboBox::showPopup();
+  }
+
  protected:
   void wheelEvent(QWheelEvent* event) override {
     if (hasFocus()) return QComboBox::wheelEvent(event);
     event->ignore();
+  }
+
+ private:
+  // The list is as wide as its rows, as far as the screen is. A row that is wider loses its middle.
+  void WidenList() {
+    const int frame = view()->verticalScrollBar()->sizeHint().width();
+    const int room = RoomFor(*window()).width();
+    view()->setMinimumWidth(std::min(view()->sizeHintForColumn(0) + frame, room));
+    view()->setTextElideMode(Qt::ElideMiddle);
+    for (int row = 0; row < count(); ++row) {
+      const int needed = view()->sizeHintForIndex(model()->index(row, 0)).width() + frame;
+      if (needed <= room) continue;
+      setItemData(row, itemText(row).toHtmlEscaped(), Qt::ToolTipRole);
+    }
   }
 };
 
@@ -37,6 +56,8 @@ QComboBox* MakeCombo(QWidget* parent) {
   combo->setLineEdit(line);
   combo->setCompleter(nullptr);
   combo->setInsertPolicy(QComboBox::NoInsert);
+  // The template says how wide a box is: its items needn't be measured.
+  combo->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
   combo->setFocusPolicy(Qt::StrongFocus);
   // Leaving the box with the text of an item in it isn't a choice of that item.
   QObject::disconnect(combo->lineEdit(), SIGNAL(editingFinished()), combo, nullptr);
@@ -77,21 +98,6 @@ void DropDownBinder::ShowItems(const ControlView& view) {
   combo_->clear();
   combo_->addItems(items);
   combo_->setCurrentIndex(-1);
-  WidenList();
-}
-
-// The list is as wide as its rows, as far as the screen is. A row that is wider loses its middle.
-void DropDownBinder::WidenList() {
-  QAbstractItemView* const list = combo_->view();
-  const int frame = list->verticalScrollBar()->sizeHint().width();
-  const int room = RoomFor(*combo_->window()).width();
-  list->setMinimumWidth(std::min(list->sizeHintForColumn(0) + frame, room));
-  list->setTextElideMode(Qt::ElideMiddle);
-  for (int row = 0; row < combo_->count(); ++row) {
-    const int needed = list->sizeHintForIndex(combo_->model()->index(row, 0)).width() + frame;
-    if (needed <= room) continue;
-    combo_->setItemData(row, combo_->itemText(row).toHtmlEscaped(), Qt::ToolTipRole);
-  }
 }
 
 QSize DropDownBinder::Needed(const ControlView&, QSize offered) const {

@@ -22,7 +22,6 @@ class DropDownBinder : public ControlBinder {
 
  private:
   void ShowItems(const ControlView& view);
-  void WidenList();
 
   QComboBox* combo_;
   TypedLine line_;
