@@ -40,7 +40,8 @@ void ControlPane::Build() {
 }
 
 void ControlPane::AddControl(int index) {
-  const ControlView view = session_.Control(index);
+  views_.push_back(session_.Control(index));
+  const ControlView& view = views_.back();
   const BinderPlace place{*this, this, index, view.id};
   if (view.kind == ControlKind::kRadioButton && (view.starts_group || radio_group_ == nullptr)) {
     radio_group_ = new QButtonGroup(this);
@@ -63,7 +64,7 @@ void ControlPane::SetCaptions() {
   // A box is named by the fixed text before it; boxes that follow one another share that text.
   QString caption;
   for (int index = 0; index < int(binders_.size()); ++index) {
-    const ControlView view = session_.Control(index);
+    const ControlView& view = views_[std::size_t(index)];
     if (view.kind == ControlKind::kStatic && !view.text.empty()) {
       caption = FromUtf8(view.text).simplified();
     } else if (TakesCaption(view.kind)) {
@@ -76,7 +77,7 @@ DialogScale ControlPane::Grow(DialogScale scale) const {
   bool wider = false;
   bool higher = false;
   for (int index = 0; index < int(binders_.size()); ++index) {
-    const ControlView view = session_.Control(index);
+    const ControlView& view = views_[std::size_t(index)];
     const QSize offered = scale.ToPixels(view.place).size();
     const QSize needed = binders_[std::size_t(index)]->Needed(view, offered);
     wider = wider || needed.width() > offered.width();
@@ -98,7 +99,7 @@ DialogScale ControlPane::GrowUpTo(DialogScale scale, const DialogScale& most) co
 
 void ControlPane::Arrange(const DialogScale& scale) {
   for (int index = 0; index < int(binders_.size()); ++index) {
-    binders_[std::size_t(index)]->Arrange(session_.Control(index), scale);
+    binders_[std::size_t(index)]->Arrange(views_[std::size_t(index)], scale);
   }
 }
 
@@ -137,14 +138,15 @@ void ControlPane::Run(int index, const Gesture& gesture) {
 
 void ControlPane::ShowAfterGesture(int index) {
   ShowControl(index);
-  if (session_.Control(index).kind != ControlKind::kRadioButton) return;
+  if (views_[std::size_t(index)].kind != ControlKind::kRadioButton) return;
   for (int other = 0; other < int(binders_.size()); ++other) {
-    if (session_.Control(other).kind == ControlKind::kRadioButton) ShowControl(other);
+    if (views_[std::size_t(other)].kind == ControlKind::kRadioButton) ShowControl(other);
   }
 }
 
 void ControlPane::ShowControl(int index) {
-  frame_.Quietly([this, index] { binders_[std::size_t(index)]->Show(session_.Control(index)); });
+  views_[std::size_t(index)] = session_.Control(index);
+  frame_.Quietly([this, index] { binders_[std::size_t(index)]->Show(views_[std::size_t(index)]); });
 }
 
 void ControlPane::Refresh(const std::vector<int>& indices) {
@@ -152,7 +154,7 @@ void ControlPane::Refresh(const std::vector<int>& indices) {
   for (int index : indices) {
     if (index < 0 || index >= int(binders_.size())) continue;
     ShowControl(index);
-    need_other_room = need_other_room || session_.Control(index).kind != ControlKind::kSwatch;
+    need_other_room = need_other_room || views_[std::size_t(index)].kind != ControlKind::kSwatch;
   }
   if (need_other_room) {
     frame_.ContentsChanged();

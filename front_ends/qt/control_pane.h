@@ -57,6 +57,7 @@ class ControlPane : public QWidget, public DialogWindow, private GestureRunner {
   ControlSession& session_;
   PaneFrame& frame_;
   InputFilter filter_;
+  std::vector<ControlView> views_;                       // as they are shown, one a control
   std::vector<std::unique_ptr<ControlBinder>> binders_;  // by index
   QButtonGroup* radio_group_ = nullptr;                  // the last one begun
 };
