@@ -77,14 +77,14 @@ TEST_F(MenuFileUpdateTest, EachKindHasItsMenus) {
 }
 
 TEST_F(MenuFileUpdateTest, AChangeIsSavedWhereTheUserGoesOn) {
+  const std::string entry = Item(1, "鎌倉@k"_sj);
   const auto check = [&](auto end, int result, bool saved) {
     folder.Write(kMenuFile, MenuFile(Entries(1)));
     ScriptFrontEnd visit;
     Edit(visit.OpensDialog(141), 1, "鎌倉", "k").ShowsRows(1021, {"t", "鎌倉", kAddRow});
     end(visit.Shows(131, "計=2").ShowsSelection(1021, 2));
     EXPECT_EQ(Call(visit, 0), result);
-    const std::string added = saved ? Item(1, "鎌倉@k"_sj) : "";
-    EXPECT_EQ(folder.Read(kMenuFile), MenuFile(Entries(1) + added));
+    EXPECT_EQ(folder.Read(kMenuFile), MenuFile(Entries(1) + (saved ? entry : "")));
   };
   check([](ScriptFrontEnd& visit) { visit.Click(1); }, 1, true);
   check([](ScriptFrontEnd& visit) { visit.Pick(1141, 1).Click(1); }, 1, true);
