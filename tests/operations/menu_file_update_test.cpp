@@ -90,8 +90,10 @@ TEST_F(MenuFileUpdateTest, AChangeIsSavedWhereTheUserGoesOn) {
   check([](ScriptFrontEnd& visit) { visit.Pick(1141, 1).Click(1); }, 1, true);
   check([](ScriptFrontEnd& visit) { visit.Pick(1141, 0).Escape(); }, -1, true);
   check([](ScriptFrontEnd& visit) { visit.Escape(); }, -1, false);
-  Edit(script, 1, "江の島", "e f.bmp").Click(1);
-  EXPECT_EQ(Call(script, 2), 1);
+  Edit(script, 1, "江の島", "e f.bmp").Pick(1141, 0).Does(Silently([&] {
+    EXPECT_EQ(folder.Read(kGuidemap), "m f\r\n");
+  }));
+  EXPECT_EQ(Call(script.Click(1), 2), 1);
   EXPECT_EQ(folder.Read(kGuidemap), std::string("m f\r\n江の島 e f.bmp\r\n"_sj));
 }
 
@@ -185,6 +187,7 @@ TEST_F(MenuFileUpdateTest, TheFileCanBeChosen) {
     visit.Click(1025).Beeps().ChoosesFile("/Home/Ａ表.TXT").Shows(1023, "\\home\\Ａ表.txt");
     visit.Click(1025).Beeps().ChoosesFile(std::nullopt).Shows(1023, "\\home\\Ａ表.txt");
     EXPECT_EQ(Call(visit.Escape().Escape(), kind), -1);
+    EXPECT_EQ(visit.LastFileRequest().preview_pictures, kind > 0);
     if (kind > 0) continue;
     EXPECT_EQ(visit.LastFileRequest().default_extension, "txt");
     EXPECT_EQ(visit.LastFileRequest().start_name, "/home/*.txt");

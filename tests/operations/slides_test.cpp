@@ -53,6 +53,9 @@ TEST(MenuSlideTest, ShowsTheCountsAndTheSingleChoicesBehindTheWhole) {
   script.ShowsCheck(1027, false).ShowsCheck(1028, false).ShowsCheck(1034, true);
   script.Shows(1355, "5").Type(1355, "77").Click(1356).Shows(1355, "6").Escape();
   EXPECT_EQ(Play(script, [&] { return OnDlgMenuBarSlideSet(folder.Argument(), "AUTO", 5); }), "");
+  ScriptFrontEnd manual;
+  manual.OpensDialog(135).ShowsCheck(1353, false).ShowsCheck(1354, true).Shows(1042, "0").Escape();
+  EXPECT_EQ(Play(manual, [] { return OnDlgMenuBarSlideSet("none/", "auto", 5); }), "");
 }
 
 TEST(SlideTest, AClickChangesItsFieldAndNoOther) {
@@ -79,7 +82,8 @@ TEST(SlideTest, AClickChangesItsFieldAndNoOther) {
   };
   for (const auto& [call, clicks, on, result] : cases) {
     ScriptFrontEnd script;
-    Visit(script, 142, clicks).Type(101, "99");
+    const std::string rest = std::string(result).substr(2);
+    Visit(script, 142, clicks).Shows(101, rest.substr(0, rest.find('|'))).Type(101, "99");
     for (const int id : {136, 137, 138, 1016, 1017, 1018, 214, 1052, 215, 1025, 1026}) {
       script.ShowsCheck(id, std::ranges::find(on, id) != on.end());
     }
