@@ -1,6 +1,7 @@
 #include "front_ends/qt/control_pane.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "front_ends/qt/make_binder.h"
 #include "front_ends/qt/tab_binder.h"
@@ -40,18 +41,19 @@ void ControlPane::Build() {
 }
 
 void ControlPane::AddControl(int index) {
-  views_.push_back(session_.Control(index));
-  const ControlView& view = views_.back();
+  Shown& shown = controls_.emplace_back();
+  shown.view = session_.Control(index);
+  const ControlView& view = shown.view;
   const BinderPlace place{*this, this, index, view.id};
   if (view.kind == ControlKind::kRadioButton && (view.starts_group || radio_group_ == nullptr)) {
     radio_group_ = new QButtonGroup(this);
   }
   if (view.kind == ControlKind::kTab) {
-    binders_.push_back(std::make_unique<TabBinder>(place, frame_));
+    shown.binder = std::make_unique<TabBinder>(place, frame_);
   } else {
-    binders_.push_back(MakeBinder(place, view.kind, radio_group_));
+    shown.binder = MakeBinder(place, view.kind, radio_group_);
   }
-  ControlBinder& binder = *binders_.back();
+  ControlBinder& binder = *shown.binder;
   if (view.id != kNoControlId) binder.widget()->setObjectName(QString::number(view.id));
   const bool breaks_lines = view.kind == ControlKind::kMultiLineEdit;
   for (QWidget* widget : binder.FocusWidgets()) filter_.Watch(widget, index, view.id, breaks_lines);
@@ -63,12 +65,11 @@ void ControlPane::AddControl(int index) {
 void ControlPane::SetCaptions() {
   // A box is named by the fixed text before it; boxes that follow one another share that text.
   QString caption;
-  for (int index = 0; index < int(binders_.size()); ++index) {
-    const ControlView& view = views_[std::size_t(index)];
+  for (const auto& [binder, view, arranged] : controls_) {
     if (view.kind == ControlKind::kStatic && !view.text.empty()) {
       caption = FromUtf8(view.text).simplified();
     } else if (TakesCaption(view.kind)) {
-      binders_[std::size_t(index)]->SetCaption(caption);
+      binder->SetCaption(caption);
     }
   }
 }
@@ -76,10 +77,9 @@ void ControlPane::SetCaptions() {
 DialogScale ControlPane::Grow(DialogScale scale) const {
   bool wider = false;
   bool higher = false;
-  for (int index = 0; index < int(binders_.size()); ++index) {
-    const ControlView& view = views_[std::size_t(index)];
+  for (const auto& [binder, view, arranged] : controls_) {
     const QSize offered = scale.ToPixels(view.place).size();
-    const QSize needed = binders_[std::size_t(index)]->Needed(view, offered);
+    const QSize needed = binder->Needed(view, offered);
     wider = wider || needed.width() > offered.width();
     higher = higher || needed.height() > offered.height();
   }
@@ -98,20 +98,22 @@ DialogScale ControlPane::GrowUpTo(DialogScale scale, const DialogScale& most) co
 }
 
 void ControlPane::Arrange(const DialogScale& scale) {
-  for (int index = 0; index < int(binders_.size()); ++index) {
-    binders_[std::size_t(index)]->Arrange(views_[std::size_t(index)], scale);
+  const bool anew = std::exchange(scale_, scale) != scale;
+  for (auto& [binder, view, arranged] : controls_) {
+    if (anew || !arranged) binder->Arrange(view, scale);
+    arranged = true;
   }
 }
 
 QList<QWidget*> ControlPane::FocusWidgets() const {
   QList<QWidget*> widgets;
-  for (const auto& binder : binders_) widgets << binder->FocusWidgets();
+  for (const Shown& shown : controls_) widgets << shown.binder->FocusWidgets();
   return widgets;
 }
 
 QWidget* ControlPane::FocusWidget() const {
   const int focus = session_.Layout().focus;
-  for (const auto& binder : binders_) {
+  for (const auto& [binder, view, arranged] : controls_) {
     if (QWidget* const inner = binder->InnerFocusWidget()) return inner;
     const bool wanted = focus != kNoControlId && binder->id() == focus;
     if (wanted && binder->widget()->isEnabled() && binder->widget()->isVisibleTo(window())) {
@@ -123,7 +125,7 @@ QWidget* ControlPane::FocusWidget() const {
 
 void ControlPane::AfterGesture() {
   frame_.Quietly([this] {
-    for (const auto& binder : binders_) binder->AfterGesture();
+    for (const Shown& shown : controls_) shown.binder->AfterGesture();
   });
 }
 
@@ -138,23 +140,25 @@ void ControlPane::Run(int index, const Gesture& gesture) {
 
 void ControlPane::ShowAfterGesture(int index) {
   ShowControl(index);
-  if (views_[std::size_t(index)].kind != ControlKind::kRadioButton) return;
-  for (int other = 0; other < int(binders_.size()); ++other) {
-    if (views_[std::size_t(other)].kind == ControlKind::kRadioButton) ShowControl(other);
+  if (At(index).view.kind != ControlKind::kRadioButton) return;
+  for (int other = 0; other < int(controls_.size()); ++other) {
+    if (At(other).view.kind == ControlKind::kRadioButton) ShowControl(other);
   }
 }
 
 void ControlPane::ShowControl(int index) {
-  views_[std::size_t(index)] = session_.Control(index);
-  frame_.Quietly([this, index] { binders_[std::size_t(index)]->Show(views_[std::size_t(index)]); });
+  Shown& shown = At(index);
+  shown.view = session_.Control(index);
+  shown.arranged = false;
+  frame_.Quietly([&shown] { shown.binder->Show(shown.view); });
 }
 
 void ControlPane::Refresh(const std::vector<int>& indices) {
   bool need_other_room = false;
   for (int index : indices) {
-    if (index < 0 || index >= int(binders_.size())) continue;
+    if (index < 0 || index >= int(controls_.size())) continue;
     ShowControl(index);
-    need_other_room = need_other_room || views_[std::size_t(index)].kind != ControlKind::kSwatch;
+    need_other_room = need_other_room || At(index).view.kind != ControlKind::kSwatch;
   }
   if (need_other_room) {
     frame_.ContentsChanged();

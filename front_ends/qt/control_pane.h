@@ -54,12 +54,19 @@ class ControlPane : public QWidget, public DialogWindow, private GestureRunner {
   void ShowControl(int index);
   void ShowAfterGesture(int index);
 
+  struct Shown {
+    std::unique_ptr<ControlBinder> binder;
+    ControlView view;       // as the binder shows it,
+    bool arranged = false;  // and whether that has its room
+  };
+  Shown& At(int index) { return controls_[std::size_t(index)]; }
+
   ControlSession& session_;
   PaneFrame& frame_;
   InputFilter filter_;
-  std::vector<ControlView> views_;                       // as they are shown, one a control
-  std::vector<std::unique_ptr<ControlBinder>> binders_;  // by index
-  QButtonGroup* radio_group_ = nullptr;                  // the last one begun
+  std::vector<Shown> controls_;          // by index
+  DialogScale scale_;                    // of the last arrangement
+  QButtonGroup* radio_group_ = nullptr;  // the last one begun
 };
 
 }  // namespace orreryui

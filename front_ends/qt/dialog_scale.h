@@ -24,6 +24,8 @@ struct DialogScale {
 
   QPoint ToPixels(int x_units, int y_units) const;
   QRect ToPixels(const DialogRect& place) const;
+  bool operator==(const DialogScale&) const = default;
+
   int ColumnToPixels(int width) const;  // width of a list's column at scale 1
 };
 

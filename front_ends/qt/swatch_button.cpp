@@ -15,10 +15,7 @@ std::uint32_t FromQColor(const QColor& color) {
          std::uint32_t(color.blue()) << 16;
 }
 
-SwatchButton::SwatchButton(QWidget* parent) : QPushButton(parent) {
-  setAutoDefault(false);
-  NameForScreenReaders();
-}
+SwatchButton::SwatchButton(QWidget* parent) : QPushButton(parent) { setAutoDefault(false); }
 
 void SwatchButton::ShowSwatch(const SwatchView& swatch) {
   if (swatch.colour == swatch_.colour && swatch.frame == swatch_.frame) return;

@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <cmath>
 #include <utility>
+#include <vector>
 
 namespace orreryui {
 namespace {
@@ -42,6 +43,19 @@ QSize MeasuredSize(const QString& text, const QFont& font) {
   return {int(std::ceil(width)), int(std::ceil(height))};
 }
 
+// Dialogs ask for the same texts each time they open, and shaping a text costs more than drawing
+// it. Their fonts are few, and telling whether two are the same is quicker than hashing one.
+QHash<QString, QSize>& KnownSizes(const QFont& font) {
+  constexpr std::size_t kMostFonts = 8;
+  // Kept for ever: nothing of Qt may be touched while the process ends.
+  static auto& known = *new std::vector<std::pair<QFont, QHash<QString, QSize>>>;
+  const auto same =
+      std::find_if(known.begin(), known.end(), [&](const auto& one) { return one.first == font; });
+  if (same != known.end()) return same->second;
+  if (known.size() >= kMostFonts) known.clear();
+  return known.emplace_back(font, QHash<QString, QSize>()).second;
+}
+
 }  // namespace
 
 QString BreakLines(const QString& text, const QFont& font, int width) {
@@ -62,19 +76,15 @@ QString BreakLines(const QString& text, const QFont& font, int width) {
   return lines.join(QLatin1Char('\n'));
 }
 
-// Dialogs ask for the same texts each time they open, and shaping a text costs more than drawing
-// it.
 QSize TextSize(const QString& text, const QFont& font) {
   constexpr int kLongest = 200;
   constexpr int kMostTexts = 2000;
   if (text.size() > kLongest) return MeasuredSize(text, font);
-  // Kept for ever: nothing of Qt may be touched while the process ends.
-  static auto& known = *new QHash<std::pair<QFont, QString>, QSize>;
-  const std::pair<QFont, QString> key(font, text);
-  const auto found = known.constFind(key);
+  QHash<QString, QSize>& known = KnownSizes(font);
+  const auto found = known.constFind(text);
   if (found != known.cend()) return *found;
   if (known.size() >= kMostTexts) known.clear();
-  return *known.insert(key, MeasuredSize(text, font));
+  return *known.insert(text, MeasuredSize(text, font));
 }
 
 int LineHeight(const QFont& font) { return TextSize(QStringLiteral("漢あAg"), font).height(); }
