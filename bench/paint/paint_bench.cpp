@@ -207,9 +207,9 @@ double SecondsToPaint(const QString& window, const std::function<void()>& run) {
   return visitor.painted - start;
 }
 
-double Median(std::vector<double> values) {
-  std::nth_element(values.begin(), values.begin() + kVisits / 2, values.end());
-  return values[kVisits / 2];
+// What the visits cost at least: whatever else the machine does only adds to that.
+double Least(const std::vector<double>& seconds) {
+  return *std::min_element(seconds.begin(), seconds.end());
 }
 
 // A dialog, and the operation that shows it.
@@ -236,8 +236,8 @@ void CompareWithBare(benchmark::State& state, const Visit& visit) {
     bare.push_back(SecondsToPaint("bare", [&recipe] { RunBareDialog(recipe); }));
     ours.push_back(SecondsToPaint(visit.window, visit.call));
   }
-  for (auto _ : state) state.SetIterationTime(Median(ours));
-  state.counters["ratio"] = Median(bare) / Median(ours);
+  for (auto _ : state) state.SetIterationTime(Least(ours));
+  state.counters["ratio"] = Least(bare) / Least(ours);
 }
 
 void CompareSizes(benchmark::State& state, const Visit& small, const Visit& large) {
@@ -246,8 +246,8 @@ void CompareSizes(benchmark::State& state, const Visit& small, const Visit& larg
     once.push_back(SecondsToPaint(small.window, small.call));
     tenfold.push_back(SecondsToPaint(large.window, large.call));
   }
-  for (auto _ : state) state.SetIterationTime(Median(tenfold));
-  state.counters["ratio"] = 10 * Median(once) / Median(tenfold);
+  for (auto _ : state) state.SetIterationTime(Least(tenfold));
+  state.counters["ratio"] = 10 * Least(once) / Least(tenfold);
 }
 
 constexpr char kAlbum[] = SAMPLE_DATA "album/kamakura.alb";
