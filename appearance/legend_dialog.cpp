@@ -2,7 +2,6 @@
 
 #include "appearance/palette_file.h"
 #include "appearance/palette_list.h"
-#include "frame/line_file.h"
 #include "templates/legend.h"
 
 namespace orreryui {
@@ -33,9 +32,9 @@ void CDlgLegend::LoadColors() {
   const PaletteEntry palette = PaletteEntryOf(line);
   SetDlgItemText(kName, palette.name);
   m_crColor[kLakes] = m_crLake;
-  const CString path = m_strDir + palette.file;
-  if (!FileExists(path)) return;
-  const LevelColours colours = InterpolatedColours(ReadPalette(path));
+  const auto points = ReadPalette(m_strDir + palette.file);
+  if (!points) return;
+  const LevelColours colours = InterpolatedColours(*points);
   for (std::size_t i = 0; i < kBands; ++i) {
     m_crColor[i] = colours[static_cast<std::size_t>(LevelOf(kRowElevations[i]))];
   }

@@ -46,7 +46,7 @@ CString CDlgPalette::PathOf(int index) const {
 
 void CDlgPalette::LoadColors(int index) {
   m_strPath = PathOf(index);
-  const auto points = ReadPalette(m_strPath);
+  const PalettePoints points = ReadPalette(m_strPath).value_or(PalettePoints());
   const LevelColours colours = m_nCheck == 1 ? InterpolatedColours(points) : ExactColours(points);
   for (std::size_t row = 0; row < kRowSlots.size(); ++row) {
     m_crColor[kRowSlots[row]] = colours[static_cast<std::size_t>(LevelOf(kRowElevations[row]))];

@@ -59,9 +59,10 @@ COLORREF Between(const PalettePoint& from, const PalettePoint& to, int level) {
 
 }  // namespace
 
-std::vector<PalettePoint> ReadPalette(const CString& path) {
-  std::vector<PalettePoint> points;
+std::optional<PalettePoints> ReadPalette(const CString& path) {
+  PalettePoints points;
   LineReader reader(path, kLineLimit);
+  if (!reader.IsOpen()) return std::nullopt;
   std::string_view line;
   while (points.size() < kMostPalettePoints && reader.ReadLine(line)) {
     if (line.empty() || line.front() == ';') continue;
@@ -70,13 +71,13 @@ std::vector<PalettePoint> ReadPalette(const CString& path) {
   return points;
 }
 
-LevelColours ExactColours(const std::vector<PalettePoint>& points) {
+LevelColours ExactColours(const PalettePoints& points) {
   LevelColours colours{};
   for (const PalettePoint& point : points) At(colours, point.level) = point.colour;
   return colours;
 }
 
-LevelColours InterpolatedColours(const std::vector<PalettePoint>& points) {
+LevelColours InterpolatedColours(const PalettePoints& points) {
   LevelColours colours{};
   for (std::size_t i = 1; i < points.size(); ++i) {
     const PalettePoint& from = points[i - 1];

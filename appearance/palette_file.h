@@ -13,6 +13,7 @@
 
 #include <array>
 #include <cstddef>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -46,21 +47,23 @@ struct PalettePoint {
 
 inline constexpr std::size_t kMostPalettePoints = 256;
 
-// The rows of a file in file order; none if it can't be opened. Rows that lie on no level are left
-// out, and so is what comes behind kMostPalettePoints rows. Parts of a colour beyond 0 and 255 are
-// taken for these.
-std::vector<PalettePoint> ReadPalette(const CString& path);
+using PalettePoints = std::vector<PalettePoint>;
+
+// The rows of a file in file order; nothing if it can't be opened. Rows that lie on no level are
+// left out, and so is what comes behind kMostPalettePoints rows. Parts of a colour beyond 0 and 255
+// are taken for these.
+std::optional<PalettePoints> ReadPalette(const CString& path);
 
 using LevelColours = std::array<COLORREF, kLevels>;
 
 // The colours that the points themselves give. A level without a point is black; of several points
 // on one level the last one counts.
-LevelColours ExactColours(const std::vector<PalettePoint>& points);
+LevelColours ExactColours(const PalettePoints& points);
 
 // Runs in a straight line from each point to the next one in file order; what a later pair covers
 // replaces what an earlier one did, and of two neighbours on one level the later one counts. Levels
 // that no pair covers are black, which with fewer than two points means all of them.
-LevelColours InterpolatedColours(const std::vector<PalettePoint>& points);
+LevelColours InterpolatedColours(const PalettePoints& points);
 
 // The bytes of a palette's file. Its path and `name`, the palette's name, go into a comment.
 std::string PaletteText(const CString& path, const CString& name, const RowColours& colours);

@@ -8,7 +8,7 @@
 namespace {
 
 void CheckPalette() {
-  const auto points = orreryui::ReadPalette("Orbis1.plt");
+  const auto points = orreryui::ReadPalette("Orbis1.plt").value();
   Require(points.size() <= orreryui::kMostPalettePoints);
   for (const auto& point : points) {
     Require(point.level >= 0 && point.level < orreryui::kLevels && point.colour <= 0xFFFFFF);

@@ -19,9 +19,10 @@ void BM_Palette_Load(benchmark::State& state) {
     dprintf(descriptor, "%4d %3d %3d %3d %9d m\r\n", 15 * level, level, 255 - level, 128, level);
   }
   close(descriptor);
-  for (auto _ : state) benchmark::DoNotOptimize(InterpolatedColours(ReadPalette(path)));
+  for (auto _ : state) benchmark::DoNotOptimize(InterpolatedColours(*ReadPalette(path)));
   state.counters["ratio"] = benchmark::Counter(1e-3, benchmark::Counter::kIsIterationInvariantRate);
-  if (ReadPalette(path).size() != kMostPalettePoints) state.SkipWithError("not all rows were read");
+  if (ReadPalette(path)->size() != kMostPalettePoints)
+    state.SkipWithError("not all rows were read");
   unlink(path);
 }
 BENCHMARK(BM_Palette_Load)->UseRealTime();

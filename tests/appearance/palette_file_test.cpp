@@ -20,9 +20,10 @@ class PaletteFileTest : public testing::Test {
 
   Rows Read(const std::string& text) const {
     folder.Write(kFile, text);
-    Rows points;
-    for (const auto& point : ReadPalette(Path())) points.emplace_back(point.level, point.colour);
-    return points;
+    const PalettePoints points = ReadPalette(Path()).value();
+    Rows rows;
+    for (const auto& [level, colour] : points) rows.emplace_back(level, colour);
+    return rows;
   }
 
   TestFolder folder;
@@ -63,9 +64,9 @@ TEST_F(PaletteFileTest, TakesTheFirst256RowsThatLieOnALevel) {
 }
 
 TEST_F(PaletteFileTest, WhatIsNoFileHasNoRows) {
-  EXPECT_TRUE(ReadPalette(Path()).empty());
-  EXPECT_TRUE(ReadPalette(folder.Argument()).empty());
-  EXPECT_TRUE(ReadPalette("").empty());
+  EXPECT_FALSE(ReadPalette(Path()));
+  EXPECT_FALSE(ReadPalette(folder.Argument()));
+  EXPECT_FALSE(ReadPalette(""));
 }
 
 TEST(ExactColoursTest, TheLastPointOfALevelCountsAndOthersAreBlack) {
@@ -79,7 +80,7 @@ TEST(InterpolatedColoursTest, RunsFromPointToPointInFileOrder) {
   const COLORREF white = 0xFFFFFF;
   const struct {
     const char* what;
-    std::vector<PalettePoint> points;
+    PalettePoints points;
     std::vector<std::pair<std::size_t, COLORREF>> levels;
   } cases[] = {
       {"no point", {}, {{0, kBlack}, {255, kBlack}}},
