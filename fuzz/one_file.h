@@ -27,6 +27,7 @@ class OneFile final : public FileSystem {
   std::optional<FileInfo> Stat(const std::string&) override {
     return FileInfo{.kind = FileInfo::Kind::kFile, .size = content_.size()};
   }
+  bool IsProgram(const std::string&) override { return false; }
   bool IsMissing(const std::string&) override { return false; }
   std::optional<std::vector<std::string>> List(const std::string&) override { return std::nullopt; }
   bool SyncFolderOf(const std::string&) override { return false; }

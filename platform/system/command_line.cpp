@@ -18,10 +18,7 @@ bool HoldsCharacter(std::string_view text, char character) {
   return CString(text.data(), static_cast<int>(text.size())).Find(character) >= 0;
 }
 
-bool IsProgram(const std::string& native) {
-  const auto info = CurrentFileSystem().Stat(native);
-  return info && info->executable;
-}
+bool IsProgram(const std::string& native) { return CurrentFileSystem().IsProgram(native); }
 
 // The program of this name in the folders of PATH, or the empty string.
 std::string FindOnPath(const std::string& name) {

@@ -241,9 +241,13 @@ class PosixFileSystem final : public FileSystem {
     if (S_ISDIR(status.st_mode)) info.kind = FileInfo::Kind::kFolder;
     info.size = static_cast<std::uint64_t>(status.st_size);
     info.modified = status.st_mtime;
-    info.executable = info.kind == FileInfo::Kind::kFile && ::access(path.c_str(), X_OK) == 0;
     info.identity = {status.st_dev, status.st_ino};
     return info;
+  }
+
+  bool IsProgram(const std::string& path) override {
+    const auto info = Stat(path);
+    return info && info->kind == FileInfo::Kind::kFile && ::access(path.c_str(), X_OK) == 0;
   }
 
   bool IsMissing(const std::string& path) override {

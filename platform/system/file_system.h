@@ -81,7 +81,6 @@ struct FileInfo {
   Kind kind = Kind::kOther;
   std::uint64_t size = 0;
   std::time_t modified = 0;  // seconds since 1970, UTC
-  bool executable = false;   // a file that this process may start
   // What tells it from everything else on this machine, whatever the path that leads to it.
   std::pair<std::uint64_t, std::uint64_t> identity;
 };
@@ -106,6 +105,9 @@ class FileSystem {
 
   // Nothing if there is no such name, or if that can't be told.
   virtual std::optional<FileInfo> Stat(const std::string& path) = 0;
+
+  // Whether it is a file that this process may start.
+  virtual bool IsProgram(const std::string& path) = 0;
 
   // True if nothing has that name, or a symbolic link has it that leads to nothing. False also if
   // that can't be told.

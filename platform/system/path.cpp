@@ -52,11 +52,9 @@ std::string Fold(std::string_view bytes) {
 // One name of a path, in the two ways in which a disk may have it.
 class Name {
  public:
-  explicit Name(std::string_view bytes) : raw_(bytes), utf8_(ToUtf8(bytes)), folded_(Fold(raw_)) {
-    Encoded encoded = FromUtf8(utf8_);
+  explicit Name(std::string_view bytes) : raw_(bytes), utf8_(ToUtf8(bytes)) {
     // Bytes that make no character can't be told in UTF-8.
-    if (!encoded.refused.empty()) utf8_ = raw_;
-    folded_utf8_ = Fold(encoded.bytes);
+    if (!FromUtf8(utf8_).refused.empty()) utf8_ = raw_;
   }
 
   const std::string& Spelled() const { return utf8_; }
@@ -65,11 +63,13 @@ class Name {
   // The first of the names, in byte order, that differs only by case, or the empty string. UTF-8
   // comes before the bytes of the code page.
   std::string FindAmong(const std::vector<std::string>& names) const {
+    const std::string folded = Fold(raw_);
+    const std::string folded_utf8 = Fold(FromUtf8(utf8_).bytes);
     std::string found;
     std::string found_raw;
     for (const std::string& name : names) {
-      if (IsLessOrFirst(name, found) && MatchesUtf8(name)) found = name;
-      if (IsLessOrFirst(name, found_raw) && MatchesRaw(name)) found_raw = name;
+      if (IsLessOrFirst(name, found) && MatchesUtf8(name, folded_utf8)) found = name;
+      if (IsLessOrFirst(name, found_raw) && MatchesRaw(name, folded)) found_raw = name;
     }
     return found.empty() ? found_raw : found;
   }
@@ -83,19 +83,17 @@ class Name {
     const std::string first = Fold(name.substr(0, 1));
     return name.size() >= folded.size() && (first >= "\x80" || first[0] == folded[0]);
   }
-  bool MatchesRaw(const std::string& name) const {
-    return MayMatch(name, folded_) && Fold(name) == folded_;
+  static bool MatchesRaw(const std::string& name, const std::string& folded) {
+    return MayMatch(name, folded) && Fold(name) == folded;
   }
-  bool MatchesUtf8(const std::string& name) const {
-    if (!MayMatch(name, folded_utf8_)) return false;
+  static bool MatchesUtf8(const std::string& name, const std::string& folded) {
+    if (!MayMatch(name, folded)) return false;
     const Encoded encoded = FromUtf8(name);
-    return encoded.refused.empty() && Fold(encoded.bytes) == folded_utf8_;
+    return encoded.refused.empty() && Fold(encoded.bytes) == folded;
   }
 
   std::string raw_;
   std::string utf8_;
-  std::string folded_;
-  std::string folded_utf8_;
 };
 
 std::string Below(const std::string& folder, const std::string& name) {

@@ -51,6 +51,7 @@ class FaultyFileSystem final : public FileSystem {
     return Fails() ? std::nullopt : files_.Target(path);
   }
   std::optional<FileInfo> Stat(const std::string& path) override { return files_.Stat(path); }
+  bool IsProgram(const std::string& path) override { return files_.IsProgram(path); }
   bool IsMissing(const std::string& path) override { return !Fails() && files_.IsMissing(path); }
   std::optional<std::vector<std::string>> List(const std::string& folder) override {
     ++listings_;
