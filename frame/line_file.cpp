@@ -11,7 +11,7 @@
 namespace orreryui {
 namespace {
 
-constexpr std::size_t kBlockSize = 131072;
+constexpr std::size_t kBlockSize = 32768;
 
 // Whether the next line has to begin with the end of the one before; nothing if that can't be read.
 std::optional<bool> LacksLastLineEnd(File& file, std::uint64_t size) {
