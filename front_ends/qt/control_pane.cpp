@@ -78,6 +78,7 @@ DialogScale ControlPane::Grow(DialogScale scale) const {
   bool wider = false;
   bool higher = false;
   for (const auto& [binder, view, arranged] : controls_) {
+    if (arranged && scale == scale_) continue;
     const QSize offered = scale.ToPixels(view.place).size();
     const QSize needed = binder->Needed(view, offered);
     wider = wider || needed.width() > offered.width();

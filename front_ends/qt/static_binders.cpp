@@ -22,7 +22,8 @@ StaticBinder::StaticBinder(const BinderPlace& place)
 }
 
 void StaticBinder::ShowState(const ControlView& view) {
-  label_->setAlignment((view.right_aligned ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
+  const auto alignment = (view.right_aligned ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter;
+  if (label_->alignment() != alignment) label_->setAlignment(alignment);
 }
 
 QSize StaticBinder::Needed(const ControlView& view, QSize offered) const {
@@ -38,8 +39,10 @@ void StaticBinder::Arrange(const ControlView& view, const DialogScale& scale) {
   const QString shown =
       fits ? BreakLines(text, font, label_->width()) : Shortened(text, font, label_->size());
   if (label_->text() != shown) label_->setText(shown);
-  label_->setToolTip(fits ? QString() : text.toHtmlEscaped());
-  label_->setAccessibleName(fits ? QString() : text);
+  const QString all = fits ? QString() : text;
+  if (label_->accessibleName() == all) return;
+  label_->setToolTip(all.toHtmlEscaped());
+  label_->setAccessibleName(all);
 }
 
 GroupBoxBinder::GroupBoxBinder(const BinderPlace& place)

@@ -1,10 +1,39 @@
 #include "front_ends/qt/swatch_button.h"
 
+#include <QAccessibleWidget>
 #include <QPainter>
 #include <QStyle>
 #include <QStyleOptionFocusRect>
 
 namespace orreryui {
+namespace {
+
+class AccessibleSwatch : public QAccessibleWidget {
+ public:
+  explicit AccessibleSwatch(SwatchButton* swatch)
+      : QAccessibleWidget(swatch, QAccessible::Button), swatch_(*swatch) {}
+
+  QString text(QAccessible::Text what) const override {
+    return what == QAccessible::Name ? swatch_.Name() : QAccessibleWidget::text(what);
+  }
+  QStringList actionNames() const override {
+    return QStringList(pressAction()) << QAccessibleWidget::actionNames();
+  }
+  void doAction(const QString& action) override {
+    if (action != pressAction()) return QAccessibleWidget::doAction(action);
+    if (swatch_.isEnabled()) swatch_.click();
+  }
+
+ private:
+  SwatchButton& swatch_;
+};
+
+QAccessibleInterface* MakeAccessible(const QString&, QObject* object) {
+  auto* const swatch = dynamic_cast<SwatchButton*>(object);
+  return swatch != nullptr ? new AccessibleSwatch(swatch) : nullptr;
+}
+
+}  // namespace
 
 QColor ToQColor(std::uint32_t colour) {
   return QColor(int(colour & 0xFF), int(colour >> 8 & 0xFF), int(colour >> 16 & 0xFF));
@@ -15,29 +44,30 @@ std::uint32_t FromQColor(const QColor& color) {
          std::uint32_t(color.blue()) << 16;
 }
 
-SwatchButton::SwatchButton(QWidget* parent) : QPushButton(parent) { setAutoDefault(false); }
+SwatchButton::SwatchButton(QWidget* parent) : QPushButton(parent) {
+  static const bool kInstalled = [] {
+    QAccessible::installFactory(MakeAccessible);
+    return true;
+  }();
+  static_cast<void>(kInstalled);
+  setAutoDefault(false);
+}
 
 void SwatchButton::ShowSwatch(const SwatchView& swatch) {
   if (swatch.colour == swatch_.colour && swatch.frame == swatch_.frame) return;
   swatch_ = swatch;
-  NameForScreenReaders();
+  if (QAccessible::isActive()) {
+    QAccessibleEvent changed(this, QAccessible::NameChanged);
+    QAccessible::updateAccessibility(&changed);
+  }
   update();
 }
 
-void SwatchButton::SetCaption(const QString& caption) {
-  caption_ = caption;
-  NameForScreenReaders();
-}
-
-void SwatchButton::NameForScreenReaders() {
-  QString name = caption_;
-  if (swatch_.colour) {
-    const QColor color = ToQColor(*swatch_.colour);
-    name += QStringLiteral(" 赤%1 緑%2 青%3").arg(color.red()).arg(color.green()).arg(color.blue());
-  } else {
-    name += QStringLiteral(" 色なし");
-  }
-  setAccessibleName(name.trimmed());
+QString SwatchButton::Name() const {
+  if (!swatch_.colour) return (caption_ + QStringLiteral(" 色なし")).trimmed();
+  const QColor color = ToQColor(*swatch_.colour);
+  const QString parts = QStringLiteral("%1 赤%2 緑%3 青%4").arg(caption_);
+  return parts.arg(color.red()).arg(color.green()).arg(color.blue()).trimmed();
 }
 
 void SwatchButton::paintEvent(QPaintEvent*) {

@@ -20,15 +20,17 @@ class SwatchButton : public QPushButton {
 
   void ShowSwatch(const SwatchView& swatch);
 
-  // The text beside the swatch; a screen reader says it and the colour.
-  void SetCaption(const QString& caption);
+  // The text beside the swatch.
+  void SetCaption(const QString& caption) { caption_ = caption; }
+
+  // What a screen reader says: the caption and the colour. It is made when it is asked for, since
+  // telling Qt of a name costs more than drawing the swatch.
+  QString Name() const;
 
  protected:
   void paintEvent(QPaintEvent* event) override;
 
  private:
-  void NameForScreenReaders();
-
   SwatchView swatch_;
   QString caption_;
 };

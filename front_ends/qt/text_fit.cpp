@@ -59,6 +59,8 @@ QHash<QString, QSize>& KnownSizes(const QFont& font) {
 }  // namespace
 
 QString BreakLines(const QString& text, const QFont& font, int width) {
+  const bool is_one_line = !text.contains(QLatin1Char('\n'));
+  if (is_one_line && TextSize(text, font).width() <= width) return text;
   static const QRegularExpression kGap(QStringLiteral("\\s{2,}"));
   QStringList lines;
   for (const QString& paragraph : text.split(QLatin1Char('\n'))) {

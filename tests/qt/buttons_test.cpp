@@ -1,5 +1,6 @@
 #include <gmock/gmock.h>
 
+#include <QAccessible>
 #include <QCheckBox>
 #include <QGroupBox>
 #include <QLabel>
@@ -134,7 +135,10 @@ TEST_F(Buttons, SwatchShowsColourAndFrame) {
   session.Add(ControlKind::kSwatch, 1).swatch = {0x00112233u, std::nullopt};
   RunAt<QPushButton>(1, [&](QPushButton& swatch) {
     EXPECT_EQ(swatch.grab().toImage().pixelColor(swatch.rect().center()), QColor(0x33, 0x22, 0x11));
-    EXPECT_THAT(swatch.accessibleName().toStdString(), testing::StartsWith("海岸線"));
+    QAccessibleInterface& said = *QAccessible::queryAccessibleInterface(&swatch);
+    EXPECT_EQ(said.text(QAccessible::Name), "海岸線 赤51 緑34 青17");
+    said.actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    EXPECT_THAT(session.Take(), ElementsAre("click 1"));
     session.Change(1, [](ControlView& view) { view.swatch = {0x000000FFu, 0x00FF0000u}; });
     const QImage picture = swatch.grab().toImage();
     EXPECT_EQ(picture.pixelColor(swatch.rect().center()), QColor(255, 0, 0));
