@@ -37,7 +37,7 @@ namespace {
 
 using namespace orreryui;
 
-constexpr int kVisits = 41;
+constexpr int kVisits = 101;
 
 // Of all threads of this process.
 double ProcessorSeconds() {

@@ -18,7 +18,6 @@ QString Lines(const ControlView& view) {
 StaticBinder::StaticBinder(const BinderPlace& place)
     : ControlBinder(place), label_(new QLabel(place.parent)) {
   label_->setTextFormat(Qt::PlainText);
-  label_->setIndent(0);
 }
 
 void StaticBinder::ShowState(const ControlView& view) {
