@@ -89,16 +89,22 @@ bool CDlgAlbumRegist::LacksAPart() const {
          (m_strTextFile.IsEmpty() && m_strPictureFile.IsEmpty());
 }
 
+// A new point's files are mostly beside its album.
+const CString& CDlgAlbumRegist::StartOfChooser(const CString& file) const {
+  return file.IsEmpty() ? m_strAlbumFile : file;
+}
+
 // Giving up empties the box.
 void CDlgAlbumRegist::OnChooseTextFile() {
-  m_strTextFile = ChooseOpenFile("txt", "*.txt", "地点 files (*.txt)|*.txt"_sj, m_strTextFile);
+  m_strTextFile =
+      ChooseOpenFile("txt", "*.txt", "地点 files (*.txt)|*.txt"_sj, StartOfChooser(m_strTextFile));
   SetDlgItemText(kTextFile, m_strTextFile);
 }
 
 // Giving up leaves the box alone.
 void CDlgAlbumRegist::OnChoosePicture() {
-  const CString path =
-      ChooseOpenFile("bmp", "*.bmp", "画像 files (*.bmp)|*.bmp"_sj, m_strPictureFile);
+  const CString path = ChooseOpenFile("bmp", "*.bmp", "画像 files (*.bmp)|*.bmp"_sj,
+                                      StartOfChooser(m_strPictureFile));
   if (path.IsEmpty()) return;
   m_strPictureFile = path;
   SetDlgItemText(kPictureFile, m_strPictureFile);

@@ -40,6 +40,7 @@ class CDlgAlbumRegist : public DialogWithMessages<CDlgAlbumRegist> {
   void OnGiveUp();
 
   bool LacksAPart() const;
+  const CString& StartOfChooser(const CString& file) const;
 };
 
 }  // namespace orreryui

@@ -105,6 +105,11 @@ TEST_F(AlbumRegistTest, ATextFileIsChosenInLowerCaseAndGivingUpEmptiesTheBox) {
   EXPECT_EQ(request.filters[0].patterns, std::vector<std::string>{"*.txt"});
   EXPECT_EQ(request.filters[1].label, "All files (*.*)");
   EXPECT_EQ(request.filters[1].patterns, std::vector<std::string>{"*"});
+  ScriptFrontEnd empty;
+  empty.OpensDialog(148).Click(109).Beeps().ChoosesFile(std::nullopt).Click(1);
+  Call(empty);
+  EXPECT_EQ(empty.LastFileRequest().start_name, (folder.Path() / "*.txt").string())
+      << "beside the album";
 }
 
 TEST_F(AlbumRegistTest, GivingUpThePictureLeavesItsBoxAlone) {
