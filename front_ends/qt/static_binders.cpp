@@ -40,7 +40,7 @@ void StaticBinder::Arrange(const ControlView& view, const DialogScale& scale) {
   if (label_->text() != shown) label_->setText(shown);
   const QString all = fits ? QString() : text;
   if (label_->accessibleName() == all) return;
-  label_->setToolTip(all.toHtmlEscaped());
+  label_->setToolTip(CutDown(all).toHtmlEscaped());
   label_->setAccessibleName(all);
 }
 

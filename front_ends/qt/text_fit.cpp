@@ -18,7 +18,7 @@ namespace {
 template <typename Function>
 void ForEachLine(const QString& paragraph, const QFont& font, qreal width, Function line) {
   QTextOption option;
-  option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+  option.setWrapMode(WrapModeFor(paragraph));
   QTextLayout layout(paragraph, font);
   layout.setTextOption(option);
   layout.beginLayout();
@@ -30,6 +30,12 @@ void ForEachLine(const QString& paragraph, const QFont& font, qreal width, Funct
 }
 
 constexpr qreal kUnbounded = 1e6;
+
+// More characters than any label has room for.
+constexpr qsizetype kMostShown = 2000;
+
+// Letters that a line doesn't break behind, unless there is no other way.
+bool IsOfAWord(QChar character) { return !character.isSpace() && character < QChar(0x2E80); }
 
 QSize MeasuredSize(const QString& text, const QFont& font) {
   qreal width = 0;
@@ -57,6 +63,21 @@ QHash<QString, QSize>& KnownSizes(const QFont& font) {
 }
 
 }  // namespace
+
+QTextOption::WrapMode WrapModeFor(const QString& text) {
+  constexpr int kLongestWord = 500;
+  int length = 0;
+  for (const QChar character : text) {
+    length = IsOfAWord(character) ? length + 1 : 0;
+    if (length > kLongestWord) return QTextOption::WrapAnywhere;
+  }
+  return QTextOption::WrapAtWordBoundaryOrAnywhere;
+}
+
+QString CutDown(const QString& text) {
+  if (text.size() <= kMostShown) return text;
+  return text.left(kMostShown / 2) + QChar(0x2026) + text.right(kMostShown / 2);
+}
 
 QString BreakLines(const QString& text, const QFont& font, int width) {
   const bool is_one_line = !text.contains(QLatin1Char('\n'));
@@ -93,6 +114,7 @@ int LineHeight(const QFont& font) { return TextSize(QStringLiteral("漢あAg"), 
 
 QSize NeededSize(const QString& text, const QFont& font, QSize offered) {
   if (text.isEmpty()) return offered;
+  if (text.size() > kMostShown) return {offered.width() + 1, offered.height()};
   const QSize plain = TextSize(text, font);
   if (plain.width() <= offered.width()) return offered.expandedTo({0, plain.height()});
   const bool room_for_more = offered.height() >= plain.height() + LineHeight(font);
@@ -105,7 +127,7 @@ QSize NeededSize(const QString& text, const QFont& font, QSize offered) {
 }
 
 QString Shortened(const QString& text, const QFont& font, QSize size) {
-  QStringList lines = BreakLines(text, font, size.width()).split(QLatin1Char('\n'));
+  QStringList lines = BreakLines(CutDown(text), font, size.width()).split(QLatin1Char('\n'));
   const qsizetype last = std::max(1, size.height() / LineHeight(font)) - 1;
   if (last + 1 >= lines.size()) return lines.join(QLatin1Char('\n'));
   const QString rest = lines.mid(last).join(QString());

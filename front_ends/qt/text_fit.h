@@ -5,8 +5,17 @@
 #include <QFont>
 #include <QSize>
 #include <QString>
+#include <QTextOption>
 
 namespace orreryui {
+
+// How lines of `text` are to break: between words, unless one is so long that Qt, which looks for
+// the end of a word from each line of it anew, would take minutes.
+QTextOption::WrapMode WrapModeFor(const QString& text);
+
+// The beginning and the end of a text that is longer than anybody reads in a label or a tool tip;
+// the text itself if it isn't.
+QString CutDown(const QString& text);
 
 // `text` with line feeds put in where a line would be wider than `width` pixels. Line feeds that
 // it has stay; blanks around a new break go.
