@@ -263,7 +263,7 @@ class FrontEnd {
   virtual void WaitUntil(const std::function<bool()>& done) = 0;
 };
 
-// The only symbol of a front end that is a plug-in: `FrontEnd* orreryui_front_end(int version)`,
+// The symbol asked of a front end that is a plug-in: `FrontEnd* orreryui_front_end(int version)`,
 // with C linkage. The plug-in owns the object and keeps it until the process ends. Null if it was
 // built for another version of this header or can't show a window in this process. It may be
 // called again after it returned null.

@@ -24,17 +24,23 @@ int NoteForeignQt(dl_phdr_info* info, std::size_t, void* found) {
   const std::string_view path = info->dlpi_name != nullptr ? info->dlpi_name : "";
   const std::string_view name = path.substr(path.rfind('/') + 1);
   for (std::string_view foreign : {"libQtCore.so", "libQt4Core", "libQt5Core"}) {
-    if (name.substr(0, foreign.size()) == foreign) *static_cast<bool*>(found) = true;
+    if (name.substr(0, foreign.size()) != foreign) continue;
+    *static_cast<QString*>(found) = QString::fromLocal8Bit(path.data(), qsizetype(path.size()));
   }
   return 0;
 }
 
-// Two Qts in one process share names of symbols and end in a crash.
-bool HasForeignQt() {
-  bool found = false;
-  dl_iterate_phdr(NoteForeignQt, &found);
+// Whether the process holds the Qt that the plug-in is made for and no other: two Qts in one
+// process share names of symbols and end in a crash.
+bool QtFits(QStringList& findings) {
   const QVersionNumber built(QT_VERSION_MAJOR, QT_VERSION_MINOR, QT_VERSION_PATCH);
-  return found || QLibraryInfo::version() < built;
+  const QVersionNumber here = QLibraryInfo::version();
+  QString foreign;
+  dl_iterate_phdr(NoteForeignQt, &foreign);
+  findings << QStringLiteral("Qt: %1, and the plug-in was built with %2")
+                  .arg(here.toString(), built.toString());
+  if (!foreign.isEmpty()) findings << QStringLiteral("another Qt is loaded: ") + foreign;
+  return foreign.isEmpty() && here >= built;
 }
 
 // Qt ends the process, or shows windows that stay black, where it runs out of file descriptors.
@@ -82,13 +88,16 @@ bool HasApplication() {
          application->thread() == QThread::currentThread() && ConnectionHolds();
 }
 
-bool FindOrMakeApplication() {
+bool FindOrMakeApplication(QStringList& findings) {
   static bool found_before = false;
-  if (!found_before && HasForeignQt()) return false;
+  if (!found_before && !QtFits(findings)) return false;
   found_before = true;
   if (QCoreApplication::instance() != nullptr) return HasApplication();
-  if (!HasFreeDescriptors()) return false;
-  const std::optional<Platform> platform = UsablePlatform();
+  if (!HasFreeDescriptors()) {
+    findings << QStringLiteral("file descriptors: too few are left");
+    return false;
+  }
+  const std::optional<Platform> platform = UsablePlatform(findings);
   if (!platform) return false;
   MakeApplication(platform->name);
   return true;

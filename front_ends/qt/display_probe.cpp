@@ -45,15 +45,19 @@ bool HasKey(const QPluginLoader& plugin, const QString& key) {
   return false;
 }
 
-// Whether the platform's plug-in is there and loads with all that it needs.
-bool PluginLoads(const QString& name) {
+// What keeps the platform's plug-in from being loaded with all that it needs, or nothing.
+QString PluginFault(const QString& name) {
+  QString fault =
+      QStringLiteral("Qt has no plug-in for it in ") + PluginFolders().join(QLatin1String(", "));
   for (const QString& folder : PluginFolders()) {
     for (const QFileInfo& file : QDir(folder).entryInfoList({QStringLiteral("*.so")})) {
       QPluginLoader plugin(file.absoluteFilePath());
-      if (HasKey(plugin, name) && plugin.load()) return true;
+      if (!HasKey(plugin, name)) continue;
+      if (plugin.load()) return QString();
+      fault = plugin.errorString();
     }
   }
-  return false;
+  return fault;
 }
 
 // Others end the process where they don't find what they need.
@@ -62,24 +66,37 @@ bool CanBeProbed(const QByteArray& name) {
          name == "vnc";
 }
 
-std::optional<Platform> Probe(const QByteArray& platform) {
-  const QByteArray name = platform.split(':').front().trimmed().toLower();
-  if (!CanBeProbed(name)) return std::nullopt;
-  Platform found{platform, nullptr};
+QString NoConnectionTo(const char* variable) {
+  const QString place = qEnvironmentVariable(variable);
+  return QStringLiteral("no connection, and %1 is %2")
+      .arg(QLatin1String(variable), place.isEmpty() ? QStringLiteral("not set") : place);
+}
+
+// What keeps the platform from working, or nothing. A connection that it takes is kept in
+// `platform`.
+QString Fault(Platform& platform) {
+  const QByteArray name = platform.name.split(':').front().trimmed().toLower();
+  if (!CanBeProbed(name)) return QStringLiteral("not one that can be tried safely");
   if (name == "xcb") {
-    found.connection = ConnectToXServer();
-    if (!found.connection) return std::nullopt;
+    platform.connection = ConnectToXServer();
+    if (!platform.connection) return NoConnectionTo("DISPLAY");
   }
-  if (name.startsWith("wayland") && !WaylandServerAnswers()) return std::nullopt;
-  if (!PluginLoads(QString::fromLatin1(name))) return std::nullopt;
-  return found;
+  if (name.startsWith("wayland") && !WaylandServerAnswers()) {
+    return NoConnectionTo("WAYLAND_DISPLAY");
+  }
+  return PluginFault(QString::fromLatin1(name));
 }
 
 }  // namespace
 
-std::optional<Platform> UsablePlatform() {
-  for (const QByteArray& platform : Candidates()) {
-    if (auto found = Probe(platform)) return found;
+std::optional<Platform> UsablePlatform(QStringList& findings) {
+  for (const QByteArray& name : Candidates()) {
+    Platform platform{name, nullptr};
+    const QString fault = Fault(platform);
+    findings << QStringLiteral("platform %1: %2")
+                    .arg(QString::fromLocal8Bit(name),
+                         fault.isEmpty() ? QStringLiteral("works") : fault);
+    if (fault.isEmpty()) return platform;
   }
   return std::nullopt;
 }

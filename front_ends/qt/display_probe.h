@@ -4,6 +4,7 @@
 #define ORRERYUI_FRONT_ENDS_QT_DISPLAY_PROBE_H_
 
 #include <QByteArray>
+#include <QStringList>
 #include <memory>
 #include <optional>
 
@@ -15,8 +16,9 @@ struct Platform {
 };
 
 // The first of the platforms which Qt would try that works; nothing if none does. A display server
-// that doesn't answer within seconds counts as none. Prints nothing.
-std::optional<Platform> UsablePlatform();
+// that doesn't answer within seconds counts as none. Prints nothing; what came of each platform
+// joins `findings`.
+std::optional<Platform> UsablePlatform(QStringList& findings);
 
 }  // namespace orreryui
 

@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "host/call_texts.h"
 #include "host/operation_table.h"
 
 namespace orreryui::host {
@@ -40,6 +41,18 @@ TEST(OperationTest, CutsResultsIntoFields) {
   EXPECT_THAT(FieldsOf(join, "3|4|"), ElementsAre("3", "4|"));
   join.ends_in_number = true;
   EXPECT_THAT(FieldsOf(join, "3|4|"), ElementsAre("3", "4"));
+}
+
+TEST(OperationTest, WritesJson) {
+  EXPECT_EQ(JsonOf(Joining(), "result", "3|a\\\"\r表"), R"({
+  "operation": "Join",
+  "ending": "result",
+  "result": "3|a\\\"\u000d表",
+  "fields": {
+    "number": "3",
+    "text": "a\\\"\u000d表"
+  }
+})");
 }
 
 TEST(OperationTest, KeepsWhatItHandsBack) {
