@@ -20,6 +20,12 @@ DialogScale DialogScale::Of(const QFont& font) {
   return {std::max(average / 4, full_width / 8), double(LineHeight(font)) / 8};
 }
 
+DialogScale DialogScale::LowFor(const DialogLayout& layout, QSize room, const QFont& font) const {
+  const double wanted = double(room.height()) / layout.height;
+  const bool helps = wanted < y && wanted >= double(LetterHeight(font)) / 8;
+  return {x, helps ? wanted : y};
+}
+
 DialogScale DialogScale::MostFor(const DialogLayout& layout, QSize room) const {
   const QPoint corner = ToPixels(layout.width, layout.height);
   return {x * std::clamp(double(room.width()) / corner.x(), 1.0, kMostGrowth),

@@ -18,6 +18,10 @@ struct DialogScale {
   // The font's own scale: a full-width character is at most 8 units wide, a line 8 units high.
   static DialogScale Of(const QFont& font);
 
+  // The same, less high where a dialog wouldn't fit into `room`, if that can be had without cutting
+  // letters.
+  DialogScale LowFor(const DialogLayout& layout, QSize room, const QFont& font) const;
+
   // The scale beyond which texts are cut instead of growing the dialog: a dialog that fits into
   // `room` at this scale still does so then.
   DialogScale MostFor(const DialogLayout& layout, QSize room) const;

@@ -76,8 +76,9 @@ void QtDialog::Build() {
   setWindowTitle(LiteralTitle(FromUtf8(session_.Layout().title)));
   pane_ = new ControlPane(session_, *this, this);
   pane_->Build();
-  scale_ = DialogScale::Of(font());
-  most_ = scale_.MostFor(session_.Layout(), RoomFor(*this));
+  const QSize room = RoomFor(*this);
+  scale_ = DialogScale::Of(font()).LowFor(session_.Layout(), room, font());
+  most_ = scale_.MostFor(session_.Layout(), room);
   Arrange();
 }
 

@@ -1,5 +1,6 @@
 #include "front_ends/qt/text_fit.h"
 
+#include <QFontInfo>
 #include <QFontMetrics>
 #include <QHash>
 #include <QRegularExpression>
@@ -30,6 +31,11 @@ void ForEachLine(const QString& paragraph, const QFont& font, qreal width, Funct
 }
 
 constexpr qreal kUnbounded = 1e6;
+
+// Without the room that the font leaves around the first line and the last.
+QSize LettersSize(const QString& text, const QFont& font) {
+  return TextSize(text, font) - QSize(0, LineHeight(font) - LetterHeight(font));
+}
 
 // More characters than any label has room for.
 constexpr qsizetype kMostShown = 2000;
@@ -112,14 +118,19 @@ QSize TextSize(const QString& text, const QFont& font) {
 
 int LineHeight(const QFont& font) { return TextSize(QStringLiteral("漢あAg"), font).height(); }
 
+int LetterHeight(const QFont& font) {
+  constexpr double kOfEm = 1.1;
+  return std::min(int(QFontInfo(font).pixelSize() * kOfEm), LineHeight(font));
+}
+
 QSize NeededSize(const QString& text, const QFont& font, QSize offered) {
   if (text.isEmpty()) return offered;
   if (text.size() > kMostShown) return {offered.width() + 1, offered.height()};
-  const QSize plain = TextSize(text, font);
+  const QSize plain = LettersSize(text, font);
   if (plain.width() <= offered.width()) return offered.expandedTo({0, plain.height()});
   const bool room_for_more = offered.height() >= plain.height() + LineHeight(font);
   if (room_for_more) {
-    const QSize broken = TextSize(BreakLines(text, font, offered.width()), font);
+    const QSize broken = LettersSize(BreakLines(text, font, offered.width()), font);
     if (broken.width() <= offered.width() && broken.height() <= offered.height()) return offered;
     return {offered.width() + 1, offered.height()};
   }
@@ -128,7 +139,8 @@ QSize NeededSize(const QString& text, const QFont& font, QSize offered) {
 
 QString Shortened(const QString& text, const QFont& font, QSize size) {
   QStringList lines = BreakLines(CutDown(text), font, size.width()).split(QLatin1Char('\n'));
-  const qsizetype last = std::max(1, size.height() / LineHeight(font)) - 1;
+  const int height = size.height() + LineHeight(font) - LetterHeight(font);
+  const qsizetype last = std::max(1, height / LineHeight(font)) - 1;
   if (last + 1 >= lines.size()) return lines.join(QLatin1Char('\n'));
   const QString rest = lines.mid(last).join(QString());
   lines.resize(last);

@@ -27,6 +27,10 @@ QSize TextSize(const QString& text, const QFont& font);
 // The height in pixels of a line that holds Latin and Japanese letters.
 int LineHeight(const QFont& font);
 
+// The height in pixels of the letters in such a line, Latin and Japanese: fonts for both leave more
+// above and below them than a label needs.
+int LetterHeight(const QFont& font);
+
 // The size of a rectangle that `text` would need, given a rectangle of size `offered`: `offered`
 // itself if the text fits, breaking lines as far as there is height for them; otherwise a size
 // that is larger in the direction that would help.

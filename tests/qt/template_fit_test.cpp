@@ -1,5 +1,7 @@
-// No text of a template is cut on the screen; run at several scales.
+// No text of a template is cut on the screen, and nothing scrolls; run at several scales, and on a
+// screen of 800 by 600 pixels.
 
+#include <QScrollArea>
 #include <QTest>
 #include <algorithm>
 
@@ -23,6 +25,8 @@ TEST_P(TemplateFit, NoTextIsCut) {
   const auto controls = GetParam()->controls;
   ThenInFront([&](QWidget& front) {
     EXPECT_EQ(ExpectNothingCut(front), std::count_if(controls.begin(), controls.end(), ShowsText));
+    const bool at_scale_1 = front.devicePixelRatio() == 1;
+    EXPECT_FALSE(at_scale_1 && front.findChild<QScrollArea*>() != nullptr);
     QTest::keyClick(&front, Qt::Key_Escape);
   });
   CDialog dialog(*GetParam());
