@@ -25,6 +25,12 @@ void Align(QTextDocument& document, Qt::Alignment alignment) {
   document.setDefaultTextOption(option);
 }
 
+// Whether the box is too low for two lines.
+bool IsOneRow(const ControlView& view) {
+  constexpr int kUnitsOfLine = 8;
+  return view.place.height < 2 * kUnitsOfLine;
+}
+
 }  // namespace
 
 void LineField::focusInEvent(QFocusEvent* event) {
@@ -74,7 +80,7 @@ QSize LineEditBinder::Needed(const ControlView&, QSize offered) const {
 }
 
 TextEditBinder::TextEditBinder(const BinderPlace& place)
-    : ControlBinder(place), edit_(new PartEdit(place.parent)) {
+    : ControlBinder(place), edit_(new RowEdit(place.parent)) {
   edit_->setTabChangesFocus(true);
   edit_->setWordWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
   QObject::connect(edit_, &QPlainTextEdit::textChanged, edit_, [this] { Report(); });
@@ -84,13 +90,25 @@ TextEditBinder::TextEditBinder(const BinderPlace& place)
 }
 
 void TextEditBinder::ShowState(const ControlView& view) {
-  Align(*edit_->document(), view.right_aligned ? Qt::AlignRight : Qt::AlignLeft);
+  const Qt::Alignment side = view.right_aligned ? Qt::AlignRight : Qt::AlignLeft;
+  const bool in_one_row = IsOneRow(view);
+  if (in_one_row) {
+    edit_->ShowInOneRow(side);
+  } else {
+    Align(*edit_->document(), side);
+  }
   const QString text = FromLines(view.text);
   if (!typing_ && text != known_) {
     known_ = text;
     edit_->setPlainText(text);
   }
-  edit_->SetPart(view.part, view.tall_scroll_bar);
+  edit_->SetPart(view.part, in_one_row             ? Qt::ScrollBarAlwaysOff
+                            : view.tall_scroll_bar ? Qt::ScrollBarAlwaysOn
+                                                   : Qt::ScrollBarAsNeeded);
+}
+
+QSize TextEditBinder::Needed(const ControlView& view, QSize offered) const {
+  return IsOneRow(view) ? offered.expandedTo({0, edit_->RowHeight()}) : offered;
 }
 
 void TextEditBinder::Report() {

@@ -5,7 +5,7 @@
 #include <QLineEdit>
 
 #include "front_ends/qt/control_binder.h"
-#include "front_ends/qt/part_edit.h"
+#include "front_ends/qt/row_edit.h"
 
 namespace orreryui {
 
@@ -57,6 +57,7 @@ class TextEditBinder : public ControlBinder {
  public:
   explicit TextEditBinder(const BinderPlace& place);
   QWidget* widget() const override { return edit_; }
+  QSize Needed(const ControlView& view, QSize offered) const override;
   void SetCaption(const QString& caption) override { edit_->setAccessibleName(caption); }
 
  protected:
@@ -66,7 +67,7 @@ class TextEditBinder : public ControlBinder {
   void Report();
   void Replace(const QString& text);
 
-  PartEdit* edit_;
+  RowEdit* edit_;
   QString known_;  // the text, or the part of it, that the session shows
   bool typing_ = false;
 };

@@ -24,12 +24,10 @@ PartEdit::PartEdit(QWidget* parent)
   connect(bar_, &QScrollBar::valueChanged, this, [this](int line) { GoTo(line); });
 }
 
-void PartEdit::SetPart(const TextPart& part, bool tall) {
+void PartEdit::SetPart(const TextPart& part, Qt::ScrollBarPolicy bar) {
   part_ = part;
-  const bool is_part = LacksBefore() || LacksBehind();
-  setVerticalScrollBarPolicy(is_part ? Qt::ScrollBarAlwaysOff
-                             : tall  ? Qt::ScrollBarAlwaysOn
-                                     : Qt::ScrollBarAsNeeded);
+  const bool is_part = bar != Qt::ScrollBarAlwaysOff && (LacksBefore() || LacksBehind());
+  setVerticalScrollBarPolicy(is_part ? Qt::ScrollBarAlwaysOff : bar);
   setViewportMargins(0, 0, is_part ? bar_->sizeHint().width() : 0, 0);
   bar_->setVisible(is_part);
   ShowBar();

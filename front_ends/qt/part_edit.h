@@ -20,8 +20,8 @@ class PartEdit : public QPlainTextEdit {
   // Is to give the edit the part around this line of the whole text: setPlainText, then SetPart.
   std::function<void(int line)> on_scroll;
 
-  // Which lines the document holds now. `tall`: a scroll bar is there also when all lines are seen.
-  void SetPart(const TextPart& part, bool tall);
+  // Which lines the document holds now, and when there is a vertical scroll bar.
+  void SetPart(const TextPart& part, Qt::ScrollBarPolicy bar);
 
  protected:
   void resizeEvent(QResizeEvent* event) override;
