@@ -85,6 +85,7 @@ struct ReportColumn {
 struct SwatchView {
   std::optional<std::uint32_t> colour;  // nothing: an empty swatch
   std::optional<std::uint32_t> frame;   // a frame that makes the swatch stand out
+  std::string note = {};                // what the colour stands for, if that isn't itself
 };
 
 // Which lines of a multi-line edit's text ControlView::text holds. A text that is too long to be
@@ -102,6 +103,7 @@ struct ControlView {
   DialogRect place;
   bool visible = true;
   bool enabled = true;
+  bool shows_only = false;    // a swatch that takes neither clicks nor the focus
   bool starts_group = false;  // the first radio button of a group
   bool is_default = false;    // the push button that Enter presses
   bool right_aligned = false;
@@ -267,7 +269,7 @@ class FrontEnd {
 // with C linkage. The plug-in owns the object and keeps it until the process ends. Null if it was
 // built for another version of this header or can't show a window in this process. It may be
 // called again after it returned null.
-inline constexpr int kFrontEndVersion = 3;
+inline constexpr int kFrontEndVersion = 4;
 inline constexpr char kFrontEndSymbol[] = "orreryui_front_end";
 using FrontEndFunction = FrontEnd*(int version);
 

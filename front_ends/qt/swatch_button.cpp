@@ -1,8 +1,12 @@
 #include "front_ends/qt/swatch_button.h"
 
+#include <QHelpEvent>
 #include <QPainter>
 #include <QStyle>
 #include <QStyleOptionFocusRect>
+#include <QToolTip>
+
+#include "front_ends/qt/widget_text.h"
 
 namespace orreryui {
 
@@ -18,7 +22,10 @@ std::uint32_t FromQColor(const QColor& color) {
 SwatchButton::SwatchButton(QWidget* parent) : QPushButton(parent) { setAutoDefault(false); }
 
 void SwatchButton::ShowSwatch(const SwatchView& swatch) {
-  if (swatch.colour == swatch_.colour && swatch.frame == swatch_.frame) return;
+  if (swatch.colour == swatch_.colour && swatch.frame == swatch_.frame &&
+      swatch.note == swatch_.note) {
+    return;
+  }
   swatch_ = swatch;
   NameForScreenReaders();
   update();
@@ -29,15 +36,32 @@ void SwatchButton::SetCaption(const QString& caption) {
   NameForScreenReaders();
 }
 
+void SwatchButton::OnlyShow() {
+  shows_only_ = true;
+  setFocusPolicy(Qt::NoFocus);
+}
+
+QString SwatchButton::Description() const {
+  if (!swatch_.colour) return QStringLiteral("色なし");
+  const QColor color = ToQColor(*swatch_.colour);
+  const QString parts =
+      QStringLiteral("赤%1 緑%2 青%3").arg(color.red()).arg(color.green()).arg(color.blue());
+  return swatch_.note.empty() ? parts : parts + QLatin1Char('\n') + FromUtf8(swatch_.note);
+}
+
 void SwatchButton::NameForScreenReaders() {
-  QString name = caption_;
-  if (swatch_.colour) {
-    const QColor color = ToQColor(*swatch_.colour);
-    name += QStringLiteral(" 赤%1 緑%2 青%3").arg(color.red()).arg(color.green()).arg(color.blue());
-  } else {
-    name += QStringLiteral(" 色なし");
-  }
-  setAccessibleName(name.trimmed());
+  setAccessibleName(QString(caption_ + QLatin1Char(' ') + Description()).simplified());
+}
+
+// Swatches are many and tool tips few: one is made when it is asked for.
+bool SwatchButton::event(QEvent* event) {
+  if (event->type() != QEvent::ToolTip) return QPushButton::event(event);
+  QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), Description(), this);
+  return true;
+}
+
+bool SwatchButton::hitButton(const QPoint& place) const {
+  return !shows_only_ && QPushButton::hitButton(place);
 }
 
 void SwatchButton::paintEvent(QPaintEvent*) {

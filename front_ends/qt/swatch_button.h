@@ -20,15 +20,22 @@ class SwatchButton : public QPushButton {
 
   void ShowSwatch(const SwatchView& swatch);
 
+  // Takes no clicks and no focus from now on.
+  void OnlyShow();
+
   // The text beside the swatch; a screen reader says it and the colour.
   void SetCaption(const QString& caption);
 
  protected:
+  bool event(QEvent* event) override;
+  bool hitButton(const QPoint& place) const override;
   void paintEvent(QPaintEvent* event) override;
 
  private:
   void NameForScreenReaders();
+  QString Description() const;  // of what is seen
 
+  bool shows_only_ = false;
   SwatchView swatch_;
   QString caption_;
 };

@@ -22,6 +22,7 @@ enum ControlFlags : unsigned {
   kTallScrollBar = 8,  // a multi-line edit that always shows its vertical scroll bar
   kHidden = 16,
   kDisabled = 32,
+  kShowsOnly = 64,  // a swatch that takes neither clicks nor the focus
 };
 
 struct ControlTemplate {
