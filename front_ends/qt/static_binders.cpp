@@ -1,5 +1,10 @@
 #include "front_ends/qt/static_binders.h"
 
+#include <QClipboard>
+#include <QContextMenuEvent>
+#include <QGuiApplication>
+#include <QMenu>
+
 #include "front_ends/qt/text_fit.h"
 #include "front_ends/qt/widget_text.h"
 
@@ -15,8 +20,22 @@ QString Lines(const ControlView& view) {
 
 }  // namespace
 
+void TextLabel::SetWhole(const QString& whole) {
+  whole_ = whole;
+  setAccessibleName(whole == text() ? QString() : whole);
+}
+
+void TextLabel::contextMenuEvent(QContextMenuEvent* event) {
+  if (objectName().isEmpty() || whole_.isEmpty()) return event->ignore();
+  auto* const menu = new QMenu(this);
+  menu->setAttribute(Qt::WA_DeleteOnClose);
+  menu->addAction(QStringLiteral("コピー"), this,
+                  [this] { QGuiApplication::clipboard()->setText(whole_); });
+  menu->popup(event->globalPos());
+}
+
 StaticBinder::StaticBinder(const BinderPlace& place)
-    : ControlBinder(place), label_(new QLabel(place.parent)) {
+    : ControlBinder(place), label_(new TextLabel(place.parent)) {
   label_->setTextFormat(Qt::PlainText);
   label_->setIndent(0);
 }
@@ -39,7 +58,7 @@ void StaticBinder::Arrange(const ControlView& view, const DialogScale& scale) {
       fits ? BreakLines(text, font, label_->width()) : Shortened(text, font, label_->size());
   if (label_->text() != shown) label_->setText(shown);
   label_->setToolTip(fits ? QString() : text.toHtmlEscaped());
-  label_->setAccessibleName(fits ? QString() : text);
+  label_->SetWhole(text);
 }
 
 GroupBoxBinder::GroupBoxBinder(const BinderPlace& place)
