@@ -1,8 +1,10 @@
 #include "front_ends/qt/edit_binders.h"
 
+#include <QShortcut>
 #include <QSignalBlocker>
 #include <QTextDocument>
 #include <QTextOption>
+#include <utility>
 
 #include "front_ends/qt/refusal.h"
 #include "front_ends/qt/widget_text.h"
@@ -95,6 +97,7 @@ void TextEditBinder::ShowState(const ControlView& view) {
   if (in_one_row) {
     edit_->ShowInOneRow(side);
   } else {
+    AddKeys();
     Align(*edit_->document(), side);
   }
   const QString text = FromLines(view.text);
@@ -109,6 +112,73 @@ void TextEditBinder::ShowState(const ControlView& view) {
 
 QSize TextEditBinder::Needed(const ControlView& view, QSize offered) const {
   return IsOneRow(view) ? offered.expandedTo({0, edit_->RowHeight()}) : offered;
+}
+
+// They work wherever the focus is in the window.
+void TextEditBinder::AddKeys() {
+  if (std::exchange(has_keys_, true)) return;
+  AddKey(QKeySequence::Find, [this] { OpenFindBar(); });
+  AddKey(QKeySequence::FindNext, [this] {
+    if (find_bar_ != nullptr) find_bar_->Find(FindBar::Way::kNext);
+  });
+  AddKey(QKeySequence::FindPrevious, [this] {
+    if (find_bar_ != nullptr) find_bar_->Find(FindBar::Way::kPrevious);
+  });
+  for (const Qt::Key key : {Qt::Key_Plus, Qt::Key_Equal, Qt::Key_Semicolon}) {
+    AddKey(Qt::CTRL | key, [this] { edit_->Zoom(1); });
+  }
+  AddKey(QKeySequence::ZoomOut, [this] { edit_->Zoom(-1); });
+  AddKey(Qt::CTRL | Qt::Key_0, [this] { edit_->Zoom(0); });
+}
+
+void TextEditBinder::AddKey(const QKeySequence& keys, const std::function<void()>& press) {
+  auto* const key = new QShortcut(keys, edit_);
+  QObject::connect(key, &QShortcut::activated, edit_, press);
+}
+
+void TextEditBinder::OpenFindBar() {
+  if (find_bar_ == nullptr) {
+    find_bar_ = new FindBar(edit_);
+    find_bar_->on_find = [this](const QString& wanted, FindBar::Way way) {
+      return Find(wanted, way);
+    };
+    find_bar_->on_close = [this] { CloseFindBar(); };
+    find_bar_->setFont(edit_->parentWidget()->font());
+    edit_->SetStrip(find_bar_);
+    QWidget::setTabOrder(edit_, find_bar_->line());
+  }
+  find_bar_->Open();
+  edit_->LayOut();
+  edit_->ensureCursorVisible();
+}
+
+void TextEditBinder::CloseFindBar() {
+  edit_->setFocus();
+  find_bar_->hide();
+  edit_->LayOut();
+}
+
+QWidget* TextEditBinder::InnerFocusWidget() const {
+  return find_bar_ != nullptr && find_bar_->line()->hasFocus() ? find_bar_->line() : nullptr;
+}
+
+bool TextEditBinder::Find(const QString& wanted, FindBar::Way way) {
+  const QTextCursor cursor = edit_->textCursor();
+  const bool behind = way == FindBar::Way::kNext;
+  const int from = behind ? cursor.selectionEnd() : cursor.selectionStart();
+  std::optional<TextRange> found;
+  std::string shown;
+  Run([&](ControlSession& session) {
+    found = session.Find(id(), ToUtf8(wanted), PlaceOfLines(session.Control(index()).text, from),
+                         way == FindBar::Way::kPrevious);
+    shown = session.Control(index()).text;
+  });
+  if (!found) return false;
+  QTextCursor place(edit_->document());
+  place.setPosition(PlaceInLines(shown, found->begin));
+  place.setPosition(PlaceInLines(shown, found->end), QTextCursor::KeepAnchor);
+  edit_->setTextCursor(place);
+  return true;
 }
 
 void TextEditBinder::Report() {

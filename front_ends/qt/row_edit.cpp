@@ -44,6 +44,7 @@ QPainterPath ArrowIn(const QRectF& room) {
 }  // namespace
 
 RowEdit::RowEdit(QWidget* parent) : PartEdit(parent) {
+  setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   // Text begins where that of a line edit does.
   document()->setDocumentMargin(Inside().left() - frameWidth());
 }
@@ -54,7 +55,6 @@ void RowEdit::ShowInOneRow(Qt::Alignment alignment) {
   in_one_row_ = true;
   setFrameShape(QFrame::NoFrame);
   setWordWrapMode(QTextOption::NoWrap);
-  setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   document()->setDocumentMargin(0);
   viewport()->setAutoFillBackground(false);
   // What changes isn't where the document thinks.

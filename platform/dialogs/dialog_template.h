@@ -23,6 +23,7 @@ enum ControlFlags : unsigned {
   kHidden = 16,
   kDisabled = 32,
   kShowsOnly = 64,  // a swatch that takes neither clicks nor the focus
+  kGrows = 128,     // gets the room of a window that the user makes larger
 };
 
 struct ControlTemplate {
