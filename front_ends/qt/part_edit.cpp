@@ -1,5 +1,6 @@
 #include "front_ends/qt/part_edit.h"
 
+#include <QFontInfo>
 #include <QKeyEvent>
 #include <QSignalBlocker>
 #include <QTextBlock>
@@ -51,8 +52,9 @@ void PartEdit::Zoom(int steps) {
   constexpr int kLeast = -5;
   constexpr int kMost = 15;
   zoom_ = steps == 0 ? 0 : std::clamp(zoom_ + steps, kLeast, kMost);
-  QFont letters = parentWidget()->font();
-  letters.setPointSizeF(letters.pointSizeF() * std::pow(1.1, zoom_));
+  QFont letters;  // those of the dialog, as far as nothing is set
+  const QFontInfo own(parentWidget()->font());
+  if (zoom_ != 0) letters.setPointSizeF(own.pointSizeF() * std::pow(1.1, zoom_));
   setFont(letters);
   if (strip_ != nullptr) strip_->setFont(parentWidget()->font());
   LayOut();
