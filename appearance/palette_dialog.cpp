@@ -15,6 +15,7 @@ namespace {
 
 constexpr const char* kUpdate = "更新"_sj;
 constexpr const char* kBlackNote = "中間の標高を無視する時は黒色を指定してください！"_sj;
+constexpr const char* kBetweenNote = "前後の標高の色から補間"_sj;
 constexpr const char* kAskSaveNew = "配色を登録しますか！"_sj;
 constexpr const char* kAskSaveOld = "配色を更新しますか！"_sj;
 
@@ -80,7 +81,10 @@ void CDlgPalette::OnPaint() {
 }
 
 void CDlgPalette::ShowColours() {
-  for (const int id : kSwatches) SetSwatch(id, m_crColor[SlotOf(id)]);
+  for (const int id : kSwatches) {
+    const std::size_t slot = SlotOf(id);
+    SetSwatch(id, m_crColor[slot], IsBetweenNeighbours(slot) ? kBetweenNote : "");
+  }
 }
 
 void CDlgPalette::OnColour(int id) {

@@ -72,6 +72,8 @@ class CDlgPalette : public DialogWithMessages<CDlgPalette> {
   // The palette in a row, or null: the new entry has none.
   const PaletteEntry* PaletteAt(int index) const;
   CString PathOf(int index) const;
+  // Whether the colour that is shown stands for one between those of the elevations beside it.
+  bool IsBetweenNeighbours(std::size_t slot) const;
   // What the palette's file holds for the working colours.
   std::string TextOfPalette(const CString& path, const CString& name) const;
   bool AskForName(CString& name);

@@ -56,6 +56,12 @@ void CDlgPalette::LoadColors(int index) {
   m_crColor[13] = m_crBack;
 }
 
+bool CDlgPalette::IsBetweenNeighbours(std::size_t slot) const {
+  const auto* const row = std::find(kRowSlots.begin(), kRowSlots.end(), slot);
+  return m_nCheck == 0 && row != kRowSlots.end() &&
+         IsLeftOut(static_cast<std::size_t>(row - kRowSlots.begin()), m_crColor[slot]);
+}
+
 std::string CDlgPalette::TextOfPalette(const CString& path, const CString& name) const {
   RowColours colours{};
   for (std::size_t row = 0; row < kRowSlots.size(); ++row) {

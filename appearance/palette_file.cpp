@@ -59,6 +59,10 @@ COLORREF Between(const PalettePoint& from, const PalettePoint& to, int level) {
 
 }  // namespace
 
+bool IsLeftOut(std::size_t row, COLORREF colour) {
+  return colour == kBlack && !IsAlwaysWritten(row);
+}
+
 std::optional<PalettePoints> ReadPalette(const CString& path) {
   PalettePoints points;
   LineReader reader(path, kLineLimit);
@@ -96,7 +100,7 @@ std::string PaletteText(const CString& path, const CString& name, const RowColou
   text.append(";").append(name).append("  ").append(path).append("  \r\n");
   for (std::size_t row = 0; row < colours.size(); ++row) {
     const COLORREF colour = colours[row];
-    if (colour == kBlack && !IsAlwaysWritten(row)) continue;
+    if (IsLeftOut(row, colour)) continue;
     CString numbers;
     numbers.Format("%4d %3d %3d %3d", kRowElevations[row], Red(colour), Green(colour),
                    Blue(colour));

@@ -39,6 +39,8 @@ inline constexpr std::array<int, 11> kRowElevations = {0,    1,    100,  200,  5
 // always written.
 using RowColours = std::array<COLORREF, kRowElevations.size()>;
 
+bool IsLeftOut(std::size_t row, COLORREF colour);
+
 // A row that was read.
 struct PalettePoint {
   int level = 0;  // 0 to kLevels - 1

@@ -85,6 +85,7 @@ struct ReportColumn {
 struct SwatchView {
   std::optional<std::uint32_t> colour;  // nothing: an empty swatch
   std::optional<std::uint32_t> frame;   // a frame that makes the swatch stand out
+  std::string note = {};                // what the colour stands for, if that isn't itself
 };
 
 // Which lines of a multi-line edit's text ControlView::text holds. A text that is too long to be
@@ -95,6 +96,12 @@ struct TextPart {
   int all = 1;    // of lines in the whole text
 };
 
+// A run of characters in ControlView::text, counted in units of UTF-16. The line end CR LF is two.
+struct TextRange {
+  int begin = 0;
+  int end = 0;
+};
+
 // One control as it is to be drawn. The parts that a kind doesn't use stay at their defaults.
 struct ControlView {
   ControlKind kind = ControlKind::kStatic;
@@ -102,10 +109,12 @@ struct ControlView {
   DialogRect place;
   bool visible = true;
   bool enabled = true;
+  bool shows_only = false;    // a swatch that takes neither clicks nor the focus
   bool starts_group = false;  // the first radio button of a group
   bool is_default = false;    // the push button that Enter presses
   bool right_aligned = false;
   bool tall_scroll_bar = false;  // a multi-line edit that always shows its vertical scroll bar
+  bool grows = false;            // gets the room of a window that the user makes larger
   bool checked = false;
   std::string text;  // label, edit text, or the edit field of a combo box
   TextPart part;     // of a multi-line edit: what of its text is in `text`
@@ -122,7 +131,9 @@ enum class Placement {
   kAtPixel,     // at x, y on the screen, in pixels as windows are placed there
 };
 
-// The dialog itself. Its size is that of the area inside the window's frame.
+// The dialog itself. Its size is that of the area inside the window's frame. The user can change
+// the size of a window that has a control which grows; what stands beside and below that control
+// moves.
 struct DialogLayout {
   int number = 0;  // the template's number
   std::string title;
@@ -168,7 +179,8 @@ class ControlSession {
   virtual int ControlCount() const = 0;              // in tab order
   virtual ControlView Control(int index) const = 0;  // 0 to ControlCount() - 1
 
-  // The gestures. Each but Scroll moves the focus to its control first, as the user's hand does.
+  // The gestures. Each but Scroll and Find moves the focus to its control first, as the user's hand
+  // does.
   virtual void Focus(int id) = 0;
   virtual void Click(int id) = 0;  // push buttons, radio buttons, check boxes
   // The box, or the part of its text that is shown, now reads `text`.
@@ -180,6 +192,14 @@ class ControlSession {
   // The user has scrolled a multi-line edit to this line: the part that is shown becomes the one
   // around it. A look at the text and no more: the focus stays where it is.
   virtual void Scroll(int id, int line) = 0;
+
+  // The user looks for `text` in the whole text of a multi-line edit, from the place `from` in the
+  // part that is shown: forwards the first one that begins there or behind it, backwards the last
+  // one that begins before it, in the end from the other end on. ASCII letters are found in either
+  // case. The part that is shown becomes one that has the place; the result says where. Nothing if
+  // there is no such text. A look at the text and no more, as Scroll.
+  virtual std::optional<TextRange> Find(int id, const std::string& text, int from,
+                                        bool backwards) = 0;
 
   // The system asks to draw anew.
   virtual void Paint() = 0;
@@ -267,7 +287,7 @@ class FrontEnd {
 // with C linkage. The plug-in owns the object and keeps it until the process ends. Null if it was
 // built for another version of this header or can't show a window in this process. It may be
 // called again after it returned null.
-inline constexpr int kFrontEndVersion = 3;
+inline constexpr int kFrontEndVersion = 4;
 inline constexpr char kFrontEndSymbol[] = "orreryui_front_end";
 using FrontEndFunction = FrontEnd*(int version);
 

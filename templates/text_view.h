@@ -11,7 +11,7 @@ inline constexpr int kPath = 1051;
 
 inline constexpr ControlTemplate kControls[] = {
     {ControlKind::kStatic, kPath, "Static", {10, 7, 400, 17}},
-    {ControlKind::kMultiLineEdit, kText, "", {10, 28, 400, 211}, kTallScrollBar},
+    {ControlKind::kMultiLineEdit, kText, "", {10, 28, 400, 211}, kTallScrollBar | kGrows},
     {ControlKind::kPushButton, IDOK, "OK", {352, 245, 58, 16}, kDefaultButton},
 };
 

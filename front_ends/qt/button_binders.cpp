@@ -151,7 +151,10 @@ SwatchBinder::SwatchBinder(const BinderPlace& place)
                    [this] { Run([this](ControlSession& session) { session.Click(id()); }); });
 }
 
-void SwatchBinder::ShowState(const ControlView& view) { button_->ShowSwatch(view.swatch); }
+void SwatchBinder::ShowState(const ControlView& view) {
+  if (view.shows_only) button_->OnlyShow();
+  button_->ShowSwatch(view.swatch);
+}
 
 void SwatchBinder::SetCaption(const QString& caption) { button_->SetCaption(caption); }
 

@@ -6,6 +6,7 @@
 #include <QVBoxLayout>
 #include <QWheelEvent>
 #include <algorithm>
+#include <utility>
 
 #include "front_ends/qt/list_rows.h"
 #include "front_ends/qt/screen_room.h"
@@ -21,6 +22,7 @@ class DropDown : public QComboBox {
   using QComboBox::QComboBox;
 
   void showPopup() override {
+    if (!std::exchange(has_even_rows_, true)) KeepRowsEven(view());
     WidenList();
     QComboBox::showPopup();
   }
@@ -44,6 +46,8 @@ class DropDown : public QComboBox {
       setItemData(row, itemText(row).toHtmlEscaped(), Qt::ToolTipRole);
     }
   }
+
+  bool has_even_rows_ = false;
 };
 
 // A combo box with an edit field, made ready before anything is bound to that field.
@@ -120,7 +124,7 @@ SimpleComboBinder::SimpleComboBinder(const BinderPlace& place)
   frame_->setFocusProxy(edit_);
   list_->setFocusProxy(edit_);
   list_->TakeArrowKeysOf(edit_);
-  ReportPicks(
+  BindRows(
       list_, [this](const GestureRunner::Gesture& gesture) { Run(gesture); }, place.id);
   QObject::connect(edit_, &QLineEdit::textEdited, edit_, [this] {
     line_.Report([this](const GestureRunner::Gesture& gesture) { Run(gesture); });

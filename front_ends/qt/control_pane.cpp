@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "front_ends/qt/growth.h"
 #include "front_ends/qt/make_binder.h"
 #include "front_ends/qt/tab_binder.h"
 #include "front_ends/qt/widget_text.h"
@@ -98,12 +99,27 @@ DialogScale ControlPane::GrowUpTo(DialogScale scale, const DialogScale& most) co
   return scale;
 }
 
-void ControlPane::Arrange(const DialogScale& scale) {
-  const bool anew = std::exchange(scale_, scale) != scale;
-  for (auto& [binder, view, arranged] : controls_) {
-    if (anew || !arranged) binder->Arrange(view, scale);
-    arranged = true;
+const DialogRect* ControlPane::GrowingPlace() const {
+  for (const Shown& shown : controls_) {
+    if (shown.view.grows) return &shown.view.place;
   }
+  return nullptr;
+}
+
+void ControlPane::Arrange(const DialogScale& scale, QPoint gain) {
+  const bool anew = (std::exchange(scale_, scale) != scale) | (std::exchange(gain_, gain) != gain);
+  for (auto& shown : controls_) {
+    if (anew || !shown.arranged) ArrangeControl(shown);
+    shown.arranged = true;
+  }
+}
+
+void ControlPane::ArrangeControl(const Shown& shown) const {
+  const DialogRect* const grower = gain_.isNull() ? nullptr : GrowingPlace();
+  if (grower == nullptr) return shown.binder->Arrange(shown.view, scale_);
+  ControlView view = shown.view;
+  view.place = Grown(view.place, *grower, gain_);
+  shown.binder->Arrange(view, scale_);
 }
 
 QList<QWidget*> ControlPane::FocusWidgets() const {

@@ -29,7 +29,11 @@ class ControlPane : public QWidget, public DialogWindow, private GestureRunner {
   // Grows from `scale` until all texts fit, or to `most`.
   DialogScale GrowUpTo(DialogScale scale, const DialogScale& most) const;
 
-  void Arrange(const DialogScale& scale);
+  // `gain`, in dialog units, goes to the control that grows.
+  void Arrange(const DialogScale& scale, QPoint gain = {});
+
+  // The place in the template of the control that grows; null if there is none.
+  const DialogRect* GrowingPlace() const;
 
   QList<QWidget*> FocusWidgets() const;
 
@@ -59,13 +63,15 @@ class ControlPane : public QWidget, public DialogWindow, private GestureRunner {
     ControlView view;       // as the binder shows it,
     bool arranged = false;  // and whether that has its room
   };
+  void ArrangeControl(const Shown& shown) const;
   Shown& At(int index) { return controls_[std::size_t(index)]; }
 
   ControlSession& session_;
   PaneFrame& frame_;
   InputFilter filter_;
   std::vector<Shown> controls_;          // by index
-  DialogScale scale_;                    // of the last arrangement
+  DialogScale scale_;                    // of the last arrangement,
+  QPoint gain_;                          // and what the window had gained then
   QButtonGroup* radio_group_ = nullptr;  // the last one begun
 };
 

@@ -42,6 +42,10 @@ QRect DialogScale::ToPixels(const DialogRect& place) const {
   return {corner, QSize(end.x() - corner.x(), end.y() - corner.y())};
 }
 
+QPoint DialogScale::ToUnits(QSize pixels) const {
+  return {int(std::floor(pixels.width() / x)), int(std::floor(pixels.height() / y))};
+}
+
 int DialogScale::ColumnToPixels(int width) const {
   // On the screen for which columns are measured, a dialog unit is one and a half pixels wide.
   return int(std::lround(width * x / 1.5));

@@ -28,6 +28,7 @@ struct DialogScale {
 
   QPoint ToPixels(int x_units, int y_units) const;
   QRect ToPixels(const DialogRect& place) const;
+  QPoint ToUnits(QSize pixels) const;  // rounded down
   bool operator==(const DialogScale&) const = default;
 
   int ColumnToPixels(int width) const;  // width of a list's column at scale 1

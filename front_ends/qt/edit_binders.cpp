@@ -1,8 +1,10 @@
 #include "front_ends/qt/edit_binders.h"
 
+#include <QShortcut>
 #include <QSignalBlocker>
 #include <QTextDocument>
 #include <QTextOption>
+#include <utility>
 
 #include "front_ends/qt/refusal.h"
 #include "front_ends/qt/widget_text.h"
@@ -23,6 +25,12 @@ void Align(QTextDocument& document, Qt::Alignment alignment) {
   if (option.alignment() == alignment) return;
   option.setAlignment(alignment);
   document.setDefaultTextOption(option);
+}
+
+// Whether the box is too low for two lines.
+bool IsOneRow(const ControlView& view) {
+  constexpr int kUnitsOfLine = 8;
+  return view.place.height < 2 * kUnitsOfLine;
 }
 
 }  // namespace
@@ -74,7 +82,7 @@ QSize LineEditBinder::Needed(const ControlView&, QSize offered) const {
 }
 
 TextEditBinder::TextEditBinder(const BinderPlace& place)
-    : ControlBinder(place), edit_(new PartEdit(place.parent)) {
+    : ControlBinder(place), edit_(new RowEdit(place.parent)) {
   edit_->setTabChangesFocus(true);
   edit_->setWordWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
   QObject::connect(edit_, &QPlainTextEdit::textChanged, edit_, [this] { Report(); });
@@ -84,13 +92,93 @@ TextEditBinder::TextEditBinder(const BinderPlace& place)
 }
 
 void TextEditBinder::ShowState(const ControlView& view) {
-  Align(*edit_->document(), view.right_aligned ? Qt::AlignRight : Qt::AlignLeft);
+  const Qt::Alignment side = view.right_aligned ? Qt::AlignRight : Qt::AlignLeft;
+  const bool in_one_row = IsOneRow(view);
+  if (in_one_row) {
+    edit_->ShowInOneRow(side);
+  } else {
+    AddKeys();
+    Align(*edit_->document(), side);
+  }
   const QString text = FromLines(view.text);
   if (!typing_ && text != known_) {
     known_ = text;
     edit_->setPlainText(text);
   }
-  edit_->SetPart(view.part, view.tall_scroll_bar);
+  edit_->SetPart(view.part, in_one_row             ? Qt::ScrollBarAlwaysOff
+                            : view.tall_scroll_bar ? Qt::ScrollBarAlwaysOn
+                                                   : Qt::ScrollBarAsNeeded);
+}
+
+QSize TextEditBinder::Needed(const ControlView& view, QSize offered) const {
+  return IsOneRow(view) ? offered.expandedTo({0, edit_->RowHeight()}) : offered;
+}
+
+// They work wherever the focus is in the window.
+void TextEditBinder::AddKeys() {
+  if (std::exchange(has_keys_, true)) return;
+  AddKey(QKeySequence::Find, [this] { OpenFindBar(); });
+  AddKey(QKeySequence::FindNext, [this] {
+    if (find_bar_ != nullptr) find_bar_->Find(FindBar::Way::kNext);
+  });
+  AddKey(QKeySequence::FindPrevious, [this] {
+    if (find_bar_ != nullptr) find_bar_->Find(FindBar::Way::kPrevious);
+  });
+  for (const Qt::Key key : {Qt::Key_Plus, Qt::Key_Equal, Qt::Key_Semicolon}) {
+    AddKey(Qt::CTRL | key, [this] { edit_->Zoom(1); });
+  }
+  AddKey(QKeySequence::ZoomOut, [this] { edit_->Zoom(-1); });
+  AddKey(Qt::CTRL | Qt::Key_0, [this] { edit_->Zoom(0); });
+}
+
+void TextEditBinder::AddKey(const QKeySequence& keys, const std::function<void()>& press) {
+  auto* const key = new QShortcut(keys, edit_);
+  QObject::connect(key, &QShortcut::activated, edit_, press);
+}
+
+void TextEditBinder::OpenFindBar() {
+  if (find_bar_ == nullptr) {
+    find_bar_ = new FindBar(edit_);
+    find_bar_->on_find = [this](const QString& wanted, FindBar::Way way) {
+      return Find(wanted, way);
+    };
+    find_bar_->on_close = [this] { CloseFindBar(); };
+    find_bar_->setFont(edit_->parentWidget()->font());
+    edit_->SetStrip(find_bar_);
+    QWidget::setTabOrder(edit_, find_bar_->line());
+  }
+  find_bar_->Open();
+  edit_->LayOut();
+  edit_->ensureCursorVisible();
+}
+
+void TextEditBinder::CloseFindBar() {
+  edit_->setFocus();
+  find_bar_->hide();
+  edit_->LayOut();
+}
+
+QWidget* TextEditBinder::InnerFocusWidget() const {
+  return find_bar_ != nullptr && find_bar_->line()->hasFocus() ? find_bar_->line() : nullptr;
+}
+
+bool TextEditBinder::Find(const QString& wanted, FindBar::Way way) {
+  const QTextCursor cursor = edit_->textCursor();
+  const bool behind = way == FindBar::Way::kNext;
+  const int from = behind ? cursor.selectionEnd() : cursor.selectionStart();
+  std::optional<TextRange> found;
+  std::string shown;
+  Run([&](ControlSession& session) {
+    found = session.Find(id(), ToUtf8(wanted), PlaceOfLines(session.Control(index()).text, from),
+                         way == FindBar::Way::kPrevious);
+    shown = session.Control(index()).text;
+  });
+  if (!found) return false;
+  QTextCursor place(edit_->document());
+  place.setPosition(PlaceInLines(shown, found->begin));
+  place.setPosition(PlaceInLines(shown, found->end), QTextCursor::KeepAnchor);
+  edit_->setTextCursor(place);
+  return true;
 }
 
 void TextEditBinder::Report() {

@@ -5,7 +5,8 @@
 #include <QLineEdit>
 
 #include "front_ends/qt/control_binder.h"
-#include "front_ends/qt/part_edit.h"
+#include "front_ends/qt/find_bar.h"
+#include "front_ends/qt/row_edit.h"
 
 namespace orreryui {
 
@@ -57,18 +58,27 @@ class TextEditBinder : public ControlBinder {
  public:
   explicit TextEditBinder(const BinderPlace& place);
   QWidget* widget() const override { return edit_; }
+  QSize Needed(const ControlView& view, QSize offered) const override;
+  QWidget* InnerFocusWidget() const override;
   void SetCaption(const QString& caption) override { edit_->setAccessibleName(caption); }
 
  protected:
   void ShowState(const ControlView& view) override;
 
  private:
+  void AddKeys();
+  void AddKey(const QKeySequence& keys, const std::function<void()>& press);
+  void OpenFindBar();
+  void CloseFindBar();
+  bool Find(const QString& wanted, FindBar::Way way);
   void Report();
   void Replace(const QString& text);
 
-  PartEdit* edit_;
+  RowEdit* edit_;
   QString known_;  // the text, or the part of it, that the session shows
   bool typing_ = false;
+  bool has_keys_ = false;
+  FindBar* find_bar_ = nullptr;  // once it was opened
 };
 
 }  // namespace orreryui

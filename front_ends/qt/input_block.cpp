@@ -1,16 +1,44 @@
 #include "front_ends/qt/input_block.h"
 
 #include <QApplication>
-#include <QEvent>
+#include <QPaintEvent>
+#include <QPainter>
+#include <QScreen>
 
 namespace orreryui {
+namespace {
 
-InputBlock::InputBlock() {
+// Lies over all that its window shows. Focus, cursors and selections stay as they are, which they
+// wouldn't in a window that is disabled.
+class Veil : public QWidget {
+ public:
+  explicit Veil(QWidget* window) : QWidget(window) {
+    resize(window->screen()->virtualSize());  // the window may grow
+    show();
+  }
+
+ protected:
+  void paintEvent(QPaintEvent* event) override {
+    QColor grey = palette().color(QPalette::Window);
+    grey.setAlphaF(0.6F);
+    QPainter(this).fillRect(event->rect(), grey);
+  }
+};
+
+}  // namespace
+
+InputBlock::InputBlock(QWidget* front) {
   qApp->installEventFilter(this);
   QApplication::setOverrideCursor(Qt::BusyCursor);
+  for (QWidget* window = front; window != nullptr; window = window->parentWidget()) {
+    veils_ << new Veil(window);
+  }
 }
 
-InputBlock::~InputBlock() { QApplication::restoreOverrideCursor(); }
+InputBlock::~InputBlock() {
+  for (const QPointer<QWidget>& veil : veils_) delete veil.data();
+  QApplication::restoreOverrideCursor();
+}
 
 bool InputBlock::eventFilter(QObject*, QEvent* event) {
   switch (event->type()) {

@@ -1,11 +1,28 @@
 #include "front_ends/qt/list_binders.h"
 
 #include <QHeaderView>
+#include <QStyledItemDelegate>
 
 #include "front_ends/qt/list_rows.h"
+#include "front_ends/qt/text_fit.h"
 #include "front_ends/qt/widget_text.h"
 
 namespace orreryui {
+namespace {
+
+class EvenRows : public QStyledItemDelegate {
+ public:
+  using QStyledItemDelegate::QStyledItemDelegate;
+
+  QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+    const QSize own = QStyledItemDelegate::sizeHint(option, index);
+    return own.expandedTo({0, LineHeight(option.font)});
+  }
+};
+
+}  // namespace
+
+void KeepRowsEven(QAbstractItemView* view) { view->setItemDelegate(new EvenRows(view)); }
 
 QStringList FirstColumn(const std::vector<std::vector<std::string>>& rows) {
   QStringList texts;
@@ -40,7 +57,7 @@ void SelectRow(QAbstractItemView* view, int row) {
 
 ListBoxBinder::ListBoxBinder(const BinderPlace& place)
     : ControlBinder(place), list_(new PickingList(place.parent)) {
-  ReportPicks(
+  BindRows(
       list_, [this](const GestureRunner::Gesture& gesture) { Run(gesture); }, place.id);
 }
 
@@ -54,7 +71,7 @@ ReportListBinder::ReportListBinder(const BinderPlace& place)
   tree_->header()->setSectionsMovable(false);
   tree_->header()->setStretchLastSection(false);
   tree_->setColumnCount(0);
-  ReportPicks(
+  BindRows(
       tree_, [this](const GestureRunner::Gesture& gesture) { Run(gesture); }, place.id);
 }
 

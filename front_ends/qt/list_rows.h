@@ -17,13 +17,18 @@ namespace orreryui {
 // The texts of a row's first column; a row without columns counts as empty.
 QStringList FirstColumn(const std::vector<std::vector<std::string>>& rows);
 
+// Gives the rows of the view one height, whatever letters they hold.
+void KeepRowsEven(QAbstractItemView* view);
+
 // Shows rows and selection of the control in the list.
 void ShowRows(QListWidget* list, const ControlView& view);
 
-// Turns picks and double clicks in the view into gestures on the control `id`.
+// Makes the view that of the control `id`: its rows get one height, and picks and double clicks
+// become gestures.
 template <class View>
-void ReportPicks(PickingView<View>* view,
-                 const std::function<void(const GestureRunner::Gesture&)>& run, int id) {
+void BindRows(PickingView<View>* view,
+              const std::function<void(const GestureRunner::Gesture&)>& run, int id) {
+  KeepRowsEven(view);
   view->on_pick = [run, id](int row) {
     run([=](ControlSession& session) { session.Pick(id, row); });
   };

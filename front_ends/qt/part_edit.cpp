@@ -1,9 +1,12 @@
 #include "front_ends/qt/part_edit.h"
 
+#include <QFontInfo>
 #include <QKeyEvent>
 #include <QSignalBlocker>
 #include <QTextBlock>
+#include <QWheelEvent>
 #include <algorithm>
+#include <cmath>
 
 namespace orreryui {
 namespace {
@@ -24,23 +27,51 @@ PartEdit::PartEdit(QWidget* parent)
   connect(bar_, &QScrollBar::valueChanged, this, [this](int line) { GoTo(line); });
 }
 
-void PartEdit::SetPart(const TextPart& part, bool tall) {
+void PartEdit::SetPart(const TextPart& part, Qt::ScrollBarPolicy bar) {
   part_ = part;
-  const bool is_part = LacksBefore() || LacksBehind();
-  setVerticalScrollBarPolicy(is_part ? Qt::ScrollBarAlwaysOff
-                             : tall  ? Qt::ScrollBarAlwaysOn
-                                     : Qt::ScrollBarAsNeeded);
-  setViewportMargins(0, 0, is_part ? bar_->sizeHint().width() : 0, 0);
+  const bool is_part = bar != Qt::ScrollBarAlwaysOff && (LacksBefore() || LacksBehind());
+  setVerticalScrollBarPolicy(is_part ? Qt::ScrollBarAlwaysOff : bar);
   bar_->setVisible(is_part);
+  LayOut();
+}
+
+void PartEdit::LayOut() {
+  const bool has_strip = strip_ != nullptr && !strip_->isHidden();
+  const int width = bar_->isHidden() ? 0 : bar_->sizeHint().width();
+  const int height = has_strip ? strip_->sizeHint().height() : 0;
+  setViewportMargins(0, 0, width, height);
+  const QRect inside = contentsRect();
+  bar_->setGeometry(inside.right() + 1 - width, inside.top(), width, inside.height());
+  if (has_strip) {
+    strip_->setGeometry(inside.left(), inside.bottom() + 1 - height, viewport()->width(), height);
+  }
   ShowBar();
+}
+
+void PartEdit::Zoom(int steps) {
+  constexpr int kLeast = -5;
+  constexpr int kMost = 15;
+  zoom_ = steps == 0 ? 0 : std::clamp(zoom_ + steps, kLeast, kMost);
+  QFont letters;  // those of the dialog, as far as nothing is set
+  const QFontInfo own(parentWidget()->font());
+  if (zoom_ != 0) letters.setPointSizeF(own.pointSizeF() * std::pow(1.1, zoom_));
+  setFont(letters);
+  if (strip_ != nullptr) strip_->setFont(parentWidget()->font());
+  LayOut();
+}
+
+void PartEdit::wheelEvent(QWheelEvent* event) {
+  if (!event->modifiers().testFlag(Qt::ControlModifier)) return QPlainTextEdit::wheelEvent(event);
+  turned_ += event->angleDelta().y();
+  const int steps = turned_ / QWheelEvent::DefaultDeltasPerStep;
+  turned_ -= steps * QWheelEvent::DefaultDeltasPerStep;
+  if (steps != 0) Zoom(steps);
+  event->accept();
 }
 
 void PartEdit::resizeEvent(QResizeEvent* event) {
   QPlainTextEdit::resizeEvent(event);
-  const QRect inside = contentsRect();
-  const int width = bar_->sizeHint().width();
-  bar_->setGeometry(inside.right() + 1 - width, inside.top(), width, inside.height());
-  ShowBar();
+  LayOut();
 }
 
 void PartEdit::keyPressEvent(QKeyEvent* event) {

@@ -1,6 +1,6 @@
 // A multi-line edit for a text that may be longer than what its document holds: some of the text's
 // lines. It then has a scroll bar over all lines, and asks for others before the user has come to
-// the end of those that it has. Selecting and searching end where the part does.
+// the end of those that it has. Selecting ends where the part does.
 #ifndef ORRERYUI_FRONT_ENDS_QT_PART_EDIT_H_
 #define ORRERYUI_FRONT_ENDS_QT_PART_EDIT_H_
 
@@ -20,10 +20,19 @@ class PartEdit : public QPlainTextEdit {
   // Is to give the edit the part around this line of the whole text: setPlainText, then SetPart.
   std::function<void(int line)> on_scroll;
 
-  // Which lines the document holds now. `tall`: a scroll bar is there also when all lines are seen.
-  void SetPart(const TextPart& part, bool tall);
+  // Which lines the document holds now, and when there is a vertical scroll bar.
+  void SetPart(const TextPart& part, Qt::ScrollBarPolicy bar);
+
+  // Lays the widget, which the edit owns, below the text while that widget is shown; LayOut is to
+  // be called when it was shown or hidden.
+  void SetStrip(QWidget* strip) { strip_ = strip; }
+  void LayOut();
+
+  // Makes the letters larger by so many steps, or smaller. 0 is back to their own size.
+  void Zoom(int steps);
 
  protected:
+  void wheelEvent(QWheelEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
 
@@ -48,6 +57,9 @@ class PartEdit : public QPlainTextEdit {
   void ShowBar();
 
   TextPart part_;
+  QWidget* strip_ = nullptr;
+  int zoom_ = 0;            // steps
+  int turned_ = 0;          // by the wheel, since the last step
   QScrollBar* bar_;         // over all lines; only seen where the document holds a part
   QTimer follow_;           // runs off once a scroll of the document is through
   int followed_block_ = 0;  // the first visible one when it last did

@@ -10,6 +10,7 @@
 #include <algorithm>
 
 #include "front_ends/qt/foreign_window.h"
+#include "front_ends/qt/growth.h"
 #include "front_ends/qt/screen_room.h"
 #include "front_ends/qt/widget_text.h"
 
@@ -76,6 +77,11 @@ void QtDialog::Build() {
   setWindowTitle(LiteralTitle(FromUtf8(session_.Layout().title)));
   pane_ = new ControlPane(session_, *this, this);
   pane_->Build();
+  if (pane_->GrowingPlace() != nullptr) {
+    setSizeGripEnabled(true);
+    setWindowFlags(windowFlags() | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
+                   Qt::WindowCloseButtonHint | Qt::WindowMaximizeButtonHint);
+  }
   const QSize room = RoomFor(*this);
   scale_ = DialogScale::Of(font()).LowFor(session_.Layout(), room, font());
   most_ = scale_.MostFor(session_.Layout(), room);
@@ -87,10 +93,38 @@ void QtDialog::Arrange() {
   scale_ = pane_->GrowUpTo(scale_, most_);
   const QPoint corner = scale_.ToPixels(layout.width, layout.height);
   const QSize size(corner.x(), corner.y());
-  pane_->setFixedSize(size);
-  pane_->Arrange(scale_);
-  FitIntoScreen(size);
+  if (const DialogRect* const grower = pane_->GrowingPlace()) {
+    LetGrow(*grower, size);
+  } else {
+    pane_->setFixedSize(size);
+    pane_->Arrange(scale_);
+    FitIntoScreen(size);
+  }
   OrderTabs();
+}
+
+// The user's own changes of the size stay.
+void QtDialog::LetGrow(const DialogRect& grower, QSize natural) {
+  const QPoint least = LeastGain(grower);
+  const QPoint spare = scale_.ToPixels(least.x(), least.y());
+  setMinimumSize(natural + QSize(spare.x(), spare.y()));
+  if (natural != natural_) {
+    const QSize gained = isVisible() ? size() - natural_ : QSize(0, 0);
+    natural_ = natural;
+    resize((natural + gained).boundedTo(RoomFor(*this)));
+  }
+  ShareOut();
+}
+
+void QtDialog::ShareOut() {
+  const QSize gained = size() - natural_;
+  pane_->setFixedSize(size());
+  pane_->Arrange(scale_, scale_.ToUnits(gained));
+}
+
+void QtDialog::resizeEvent(QResizeEvent* event) {
+  QDialog::resizeEvent(event);
+  if (pane_ != nullptr && pane_->GrowingPlace() != nullptr) Quietly([this] { ShareOut(); });
 }
 
 void QtDialog::FitIntoScreen(QSize size) {

@@ -34,6 +34,7 @@ class QtDialog : public QDialog, public DialogWindow, private PaneFrame {
  protected:
   void keyPressEvent(QKeyEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
 
  private:
   ControlSession* Page(int tab_control, int tab) override {
@@ -58,6 +59,8 @@ class QtDialog : public QDialog, public DialogWindow, private PaneFrame {
   void StandBefore(QWindow* host);
   void Arrange();
   void FitIntoScreen(QSize size);
+  void LetGrow(const DialogRect& grower, QSize natural);
+  void ShareOut();
   void OrderTabs();
   void ShowFocus();
   void Place();
@@ -73,6 +76,7 @@ class QtDialog : public QDialog, public DialogWindow, private PaneFrame {
   QScrollArea* scroll_area_ = nullptr;  // only where the screen is too small
   DialogScale scale_;
   DialogScale most_;  // the scale beyond which texts are cut instead
+  QSize natural_;     // of a window that the user may make larger: its size in the template
   DialogLayout placed_;
   QList<QWidget*> tab_order_;
   bool covered_ = false;  // nothing of the window was to be seen since it was last drawn

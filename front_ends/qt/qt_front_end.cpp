@@ -61,7 +61,7 @@ void QtFrontEnd::WaitUntil(const std::function<bool()>& done) {
   Guarded(false, [&] {
     constexpr int kInterval = 25;  // milliseconds
     constexpr int kAskAgain = INT_MIN;
-    const InputBlock block;
+    const InputBlock block(innermost_);
     QEventLoop loop;
     QTimer timer;
     QObject::connect(&timer, &QTimer::timeout, &loop, [&loop] { loop.exit(kAskAgain); });

@@ -1,5 +1,10 @@
 #include "front_ends/qt/static_binders.h"
 
+#include <QClipboard>
+#include <QContextMenuEvent>
+#include <QGuiApplication>
+#include <QMenu>
+
 #include "front_ends/qt/text_fit.h"
 #include "front_ends/qt/widget_text.h"
 
@@ -15,8 +20,23 @@ QString Lines(const ControlView& view) {
 
 }  // namespace
 
+void TextLabel::SetWhole(const QString& whole) {
+  whole_ = whole;
+  const QString name = whole == text() ? QString() : whole;
+  if (accessibleName() != name) setAccessibleName(name);
+}
+
+void TextLabel::contextMenuEvent(QContextMenuEvent* event) {
+  if (objectName().isEmpty() || whole_.isEmpty()) return event->ignore();
+  auto* const menu = new QMenu(this);
+  menu->setAttribute(Qt::WA_DeleteOnClose);
+  menu->addAction(QStringLiteral("コピー"), this,
+                  [this] { QGuiApplication::clipboard()->setText(whole_); });
+  menu->popup(event->globalPos());
+}
+
 StaticBinder::StaticBinder(const BinderPlace& place)
-    : ControlBinder(place), label_(new QLabel(place.parent)) {
+    : ControlBinder(place), label_(new TextLabel(place.parent)) {
   label_->setTextFormat(Qt::PlainText);
 }
 
@@ -38,10 +58,9 @@ void StaticBinder::Arrange(const ControlView& view, const DialogScale& scale) {
   const QString shown =
       fits ? BreakLines(text, font, label_->width()) : Shortened(text, font, label_->size());
   if (label_->text() != shown) label_->setText(shown);
-  const QString all = fits ? QString() : text;
-  if (label_->accessibleName() == all) return;
-  label_->setToolTip(CutDown(all).toHtmlEscaped());
-  label_->setAccessibleName(all);
+  label_->SetWhole(text);
+  const QString tip = fits ? QString() : CutDown(text).toHtmlEscaped();
+  if (label_->toolTip() != tip) label_->setToolTip(tip);
 }
 
 GroupBoxBinder::GroupBoxBinder(const BinderPlace& place)

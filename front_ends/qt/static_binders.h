@@ -9,6 +9,22 @@
 
 namespace orreryui {
 
+// A label that may show a text with other line breaks, or a part of it. A screen reader says the
+// whole text, and a menu copies it where the label is a control with a number.
+class TextLabel : public QLabel {
+ public:
+  using QLabel::QLabel;
+
+  // To be called when what is shown has been set.
+  void SetWhole(const QString& whole);
+
+ protected:
+  void contextMenuEvent(QContextMenuEvent* event) override;
+
+ private:
+  QString whole_;
+};
+
 // Plain text. Where its rectangle can't hold it the label leaves a part out, and a tool tip shows
 // all.
 class StaticBinder : public ControlBinder {
@@ -22,7 +38,7 @@ class StaticBinder : public ControlBinder {
   void ShowState(const ControlView& view) override;
 
  private:
-  QLabel* label_;
+  TextLabel* label_;
 };
 
 class GroupBoxBinder : public ControlBinder {

@@ -1,9 +1,13 @@
 #include "front_ends/qt/swatch_button.h"
 
 #include <QAccessibleWidget>
+#include <QHelpEvent>
 #include <QPainter>
 #include <QStyle>
 #include <QStyleOptionFocusRect>
+#include <QToolTip>
+
+#include "front_ends/qt/widget_text.h"
 
 namespace orreryui {
 namespace {
@@ -11,7 +15,9 @@ namespace {
 class AccessibleSwatch : public QAccessibleWidget {
  public:
   explicit AccessibleSwatch(SwatchButton* swatch)
-      : QAccessibleWidget(swatch, QAccessible::Button), swatch_(*swatch) {}
+      : QAccessibleWidget(swatch,
+                          swatch->shows_only() ? QAccessible::Graphic : QAccessible::Button),
+        swatch_(*swatch) {}
 
   QString text(QAccessible::Text what) const override {
     return what == QAccessible::Name ? swatch_.Name() : QAccessibleWidget::text(what);
@@ -21,7 +27,7 @@ class AccessibleSwatch : public QAccessibleWidget {
   }
   void doAction(const QString& action) override {
     if (action != pressAction()) return QAccessibleWidget::doAction(action);
-    if (swatch_.isEnabled()) swatch_.click();
+    if (swatch_.isEnabled() && !swatch_.shows_only()) swatch_.click();
   }
 
  private:
@@ -54,7 +60,10 @@ SwatchButton::SwatchButton(QWidget* parent) : QPushButton(parent) {
 }
 
 void SwatchButton::ShowSwatch(const SwatchView& swatch) {
-  if (swatch.colour == swatch_.colour && swatch.frame == swatch_.frame) return;
+  if (swatch.colour == swatch_.colour && swatch.frame == swatch_.frame &&
+      swatch.note == swatch_.note) {
+    return;
+  }
   swatch_ = swatch;
   if (QAccessible::isActive()) {
     QAccessibleEvent changed(this, QAccessible::NameChanged);
@@ -63,11 +72,32 @@ void SwatchButton::ShowSwatch(const SwatchView& swatch) {
   update();
 }
 
+void SwatchButton::OnlyShow() {
+  shows_only_ = true;
+  setFocusPolicy(Qt::NoFocus);
+}
+
 QString SwatchButton::Name() const {
-  if (!swatch_.colour) return (caption_ + QStringLiteral(" 色なし")).trimmed();
+  return QString(caption_ + QLatin1Char(' ') + Description()).simplified();
+}
+
+QString SwatchButton::Description() const {
+  if (!swatch_.colour) return QStringLiteral("色なし");
   const QColor color = ToQColor(*swatch_.colour);
-  const QString parts = QStringLiteral("%1 赤%2 緑%3 青%4").arg(caption_);
-  return parts.arg(color.red()).arg(color.green()).arg(color.blue()).trimmed();
+  const QString parts =
+      QStringLiteral("赤%1 緑%2 青%3").arg(color.red()).arg(color.green()).arg(color.blue());
+  return swatch_.note.empty() ? parts : parts + QLatin1Char('\n') + FromUtf8(swatch_.note);
+}
+
+// Swatches are many and tool tips few: one is made when it is asked for.
+bool SwatchButton::event(QEvent* event) {
+  if (event->type() != QEvent::ToolTip) return QPushButton::event(event);
+  QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), Description(), this);
+  return true;
+}
+
+bool SwatchButton::hitButton(const QPoint& place) const {
+  return !shows_only_ && QPushButton::hitButton(place);
 }
 
 void SwatchButton::paintEvent(QPaintEvent*) {

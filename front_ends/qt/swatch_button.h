@@ -20,6 +20,10 @@ class SwatchButton : public QPushButton {
 
   void ShowSwatch(const SwatchView& swatch);
 
+  // Takes no clicks and no focus from now on.
+  void OnlyShow();
+  bool shows_only() const { return shows_only_; }
+
   // The text beside the swatch.
   void SetCaption(const QString& caption) { caption_ = caption; }
 
@@ -28,9 +32,14 @@ class SwatchButton : public QPushButton {
   QString Name() const;
 
  protected:
+  bool event(QEvent* event) override;
+  bool hitButton(const QPoint& place) const override;
   void paintEvent(QPaintEvent* event) override;
 
  private:
+  QString Description() const;  // of what is seen
+
+  bool shows_only_ = false;
   SwatchView swatch_;
   QString caption_;
 };

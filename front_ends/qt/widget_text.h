@@ -20,6 +20,10 @@ QString LiteralTitle(const QString& title);
 QString FromLines(const std::string& text);
 std::string ToLines(const QString& text);
 
+// Between a place in a text of the seam, in units of UTF-16, and the same place in FromLines of it.
+int PlaceInLines(const std::string& text, int place);
+int PlaceOfLines(const std::string& text, int place_in_lines);
+
 }  // namespace orreryui
 
 #endif  // ORRERYUI_FRONT_ENDS_QT_WIDGET_TEXT_H_

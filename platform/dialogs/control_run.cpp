@@ -1,5 +1,8 @@
 #include "platform/dialogs/control_run.h"
 
+#include <algorithm>
+
+#include "platform/dialogs/text_search.h"
 #include "platform/strings/code_page_932.h"
 
 namespace orreryui {
@@ -226,6 +229,35 @@ void ControlRun::Scroll(int id, int line) {
     orreryui::Control& control = Model().Change(index);
     control.part = PartAround(Bytes(control.text), control.part, line);
   });
+}
+
+std::optional<TextRange> ControlRun::Find(int id, const std::string& text, int from,
+                                          bool backwards) {
+  const int index = Target(id);
+  if (index < 0 || Model().At(index).kind != ControlKind::kMultiLineEdit) return std::nullopt;
+  std::optional<TextRange> found;
+  Gesture([&] {
+    const Encoded wanted = FromUtf8(text);
+    if (wanted.refused.empty()) found = FindIn(index, wanted.bytes, from, backwards);
+  });
+  return found;
+}
+
+// Every character of the code page is one unit of UTF-16.
+std::optional<TextRange> ControlRun::FindIn(int index, std::string_view wanted, int from,
+                                            bool backwards) {
+  const orreryui::Control& control = Model().At(index);
+  const std::string_view text = Bytes(control.text);
+  const std::size_t start = control.part.begin + OffsetOfCharacter(control.ShownText(), from);
+  const auto place = (backwards ? FindPrevious : FindNext)(text, wanted, start);
+  if (!place) return std::nullopt;
+  if (*place < control.part.begin || *place + wanted.size() > control.part.end) {
+    const auto line = std::count(text.begin(), text.begin() + std::ptrdiff_t(*place), '\n');
+    Model().Change(index).part = PartAround(text, control.part, static_cast<int>(line));
+  }
+  const std::size_t begin = control.part.begin;
+  const int before = CountCharacters(text.substr(begin, *place - begin));
+  return TextRange{before, before + CountCharacters(wanted)};
 }
 
 void ControlRun::Paint() {

@@ -4,7 +4,9 @@
 #ifndef ORRERYUI_PLATFORM_DIALOGS_CONTROL_RUN_H_
 #define ORRERYUI_PLATFORM_DIALOGS_CONTROL_RUN_H_
 
+#include <optional>
 #include <string>
+#include <string_view>
 
 #include "platform/dialogs/dialog.h"
 #include "platform/dialogs/modal_run.h"
@@ -31,6 +33,7 @@ class ControlRun : public virtual ControlSession {
   void Pick(int id, int row) override;
   void DoubleClick(int id, int row) override;
   void Scroll(int id, int line) override;
+  std::optional<TextRange> Find(int id, const std::string& text, int from, bool backwards) override;
   void Paint() override;
 
   // The dialog ends itself.
@@ -77,6 +80,7 @@ class ControlRun : public virtual ControlSession {
   void PickRow(int index, int row);
   void PickTab(int index, int tab);
   void SelectRow(int index, int row);
+  std::optional<TextRange> FindIn(int index, std::string_view wanted, int from, bool backwards);
 
   CDialog& dialog_;
   ModalRun& modal_;

@@ -176,8 +176,11 @@ void CDialog::SetItemText(int id, int row, int column, const char* text) {
   cells[place] = text;
 }
 
-void CDialog::SetSwatch(int id, std::optional<std::uint32_t> colour) {
-  if (Control* control = Change(id)) control->swatch.colour = colour;
+void CDialog::SetSwatch(int id, std::optional<std::uint32_t> colour, const char* note) {
+  Control* control = Change(id);
+  if (!control) return;
+  control->swatch.colour = colour;
+  control->swatch.note = note;
 }
 
 void CDialog::FrameSwatch(int id, std::optional<std::uint32_t> colour) {

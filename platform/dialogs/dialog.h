@@ -112,8 +112,9 @@ class CDialog {
   void InsertColumn(int id, const char* title, int width);
   void SetItemText(int id, int row, int column, const char* text);
 
-  // Owner-drawn buttons. Colours are 0x00BBGGRR; no colour is an empty swatch or no frame.
-  void SetSwatch(int id, std::optional<std::uint32_t> colour);
+  // Owner-drawn buttons. Colours are 0x00BBGGRR; no colour is an empty swatch or no frame. The note
+  // says what the colour stands for, if that isn't itself.
+  void SetSwatch(int id, std::optional<std::uint32_t> colour, const char* note = "");
   void FrameSwatch(int id, std::optional<std::uint32_t> colour);
 
  private:

@@ -28,7 +28,8 @@ Control MakeControl(const ControlTemplate& source) {
 }  // namespace
 
 bool Control::TakesFocus() const {
-  return kind != ControlKind::kStatic && kind != ControlKind::kGroupBox;
+  const bool shows_only = (flags & kShowsOnly) != 0;
+  return kind != ControlKind::kStatic && kind != ControlKind::kGroupBox && !shows_only;
 }
 
 bool Control::IsButton() const {
@@ -156,10 +157,12 @@ ControlView ViewOf(const Control& control) {
   view.place = control.place;
   view.visible = control.visible;
   view.enabled = control.enabled;
+  view.shows_only = (control.flags & kShowsOnly) != 0;
   view.starts_group = (control.flags & kGroupStart) != 0;
   view.is_default = (control.flags & kDefaultButton) != 0;
   view.right_aligned = (control.flags & kRightAligned) != 0;
   view.tall_scroll_bar = (control.flags & kTallScrollBar) != 0;
+  view.grows = (control.flags & kGrows) != 0;
   view.checked = control.checked;
   view.text = ToUtf8(control.ShownText());
   view.part = control.part.lines;
@@ -172,7 +175,7 @@ ControlView ViewOf(const Control& control) {
     for (const CString& cell : row) shown.push_back(ToUtf8(cell.operator const char*()));
   }
   view.selection = control.selection;
-  view.swatch = control.swatch;
+  view.swatch = {control.swatch.colour, control.swatch.frame, ToUtf8(Bytes(control.swatch.note))};
   return view;
 }
 

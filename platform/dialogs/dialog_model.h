@@ -6,6 +6,8 @@
 
 #include <orreryui/cstring.h>
 
+#include <cstdint>
+#include <optional>
 #include <set>
 #include <string_view>
 #include <utility>
@@ -15,6 +17,13 @@
 #include "platform/dialogs/text_part.h"
 
 namespace orreryui {
+
+// What a swatch shows. Colours are 0x00BBGGRR.
+struct Swatch {
+  std::optional<std::uint32_t> colour;
+  std::optional<std::uint32_t> frame;
+  CString note;  // what the colour stands for, if that isn't itself
+};
 
 // One control. Texts are in code page 932.
 struct Control {
@@ -31,7 +40,7 @@ struct Control {
   std::vector<int> column_widths;          // in pixels of a screen at scale 1
   std::vector<std::vector<CString>> rows;  // a row is its columns; list kinds have one
   int selection = -1;
-  SwatchView swatch;
+  Swatch swatch;
 
   bool TakesFocus() const;  // the user can work on it, were it not hidden or disabled
   bool IsButton() const;    // a click on it reaches a handler

@@ -59,6 +59,40 @@ class Box : public CDialog {
   CString text_;
 };
 
+TEST(TextPart, FindingGoesByCharactersThroughTheWholeTextAndRoundItsEnds) {
+  // The second byte of ソ is that of a backslash, and the one of ア is A.
+  Box("abソ\\アA\r\nAb").Show([](ControlSession& session) {
+    struct Case {
+      const char* text;
+      int from;
+      bool backwards;
+      int begin;  // -1: not found
+      int end;
+    };
+    const Case cases[] = {{"AB", 0, false, 0, 2}, {"ab", 1, false, 8, 10}, {"ab", 9, false, 0, 2},
+                          {"ab", 8, true, 0, 2},  {"ab", 0, true, 8, 10},  {"\\", 0, false, 3, 4},
+                          {"a", 1, false, 5, 6},  {"ソ", 99, false, 2, 3}, {"abc", 0, false, -1, 0},
+                          {"", 0, false, -1, 0},  {"é", 0, true, -1, 0}};
+    for (const Case& c : cases) {
+      const auto found = session.Find(kBox, c.text, c.from, c.backwards);
+      ASSERT_EQ(found.has_value(), c.begin >= 0) << c.text;
+      if (!found) continue;
+      EXPECT_EQ(found->begin, c.begin) << c.text << c.from;
+      EXPECT_EQ(found->end, c.end) << c.text << c.from;
+    }
+    EXPECT_FALSE(session.Find(2, "Close", 0, false));
+  });
+  Box(Lines(0, kLines)).Show([](ControlSession& session) {
+    const auto found = session.Find(kBox, "\n90000 ｶ", 0, false);
+    const ControlView view = ControlOf(session, kBox);
+    ASSERT_TRUE(found && view.part.first < 90000);
+    EXPECT_EQ(found->end - found->begin, 8);
+    session.Find(kBox, "70000", found->end, true);
+    EXPECT_LT(ControlOf(session, kBox).part.first, 70000);
+    EXPECT_EQ(session.Layout().focus, 2);
+  });
+}
+
 TEST(TextPart, ScrollingShowsTheLinesAroundAndMovesNoFocus) {
   Box(Lines(0, kLines)).Show([](ControlSession& session) {
     EXPECT_EQ(ControlOf(session, kBox).text, Part(0, kLinesOfPart));

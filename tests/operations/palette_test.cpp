@@ -32,7 +32,11 @@ TEST_F(PaletteTest, TheCheckFillsInWhatThePaletteLeavesOut) {
   const Colour exact = {{12, 1}, {10, 255}};
   const Colour filled = {{12, 1},  {2, 6},   {3, 13},  {4, 33},  {5, 66},
                          {6, 100}, {7, 133}, {8, 166}, {9, 200}, {10, 255}};
-  script.Does(ShowsSwatches(kSlots, Colours(exact))).Click(kCheck).ShowsCheck(kCheck, true);
+  const std::string note = "前後の標高の色から補間";
+  const std::vector<int> left_out = {Swatch(9), Swatch(8), Swatch(7), Swatch(6),
+                                     Swatch(5), Swatch(4), Swatch(3), Swatch(2)};
+  script.Does(ShowsSwatches(kSlots, Colours(exact))).Does(ShowsNoted(left_out, note));
+  script.Click(kCheck).ShowsCheck(kCheck, true).Does(ShowsNoted({}, note));
   script.Does(ShowsSwatches(kSlots, Colours(filled))).Click(kCheck).ShowsCheck(kCheck, false);
   script.Does(ShowsSwatches(kSlots, Colours(exact))).Click(kCheck).Pick(kNames, 1);
   script.ShowsCheck(kCheck, false).Does(ShowsSwatches(kSlots, Colours(kWinter)));

@@ -22,16 +22,27 @@ inline ScriptFrontEnd::Action ShowsSwatches(std::vector<int> ids,
   };
 }
 
-// The numbers of the swatches that have a black frame.
-inline ScriptFrontEnd::Action ShowsFramed(std::vector<int> ids) {
+// The numbers of the swatches, in the order of tabs, that `is_one`.
+template <class IsOne>
+ScriptFrontEnd::Action ShowsSuch(std::vector<int> ids, IsOne is_one) {
   return [=](ControlSession& session) -> std::string {
     std::vector<int> found;
     for (int i = 0; i < session.ControlCount(); ++i) {
       const ControlView view = session.Control(i);
-      if (view.swatch.frame == 0u) found.push_back(view.id);
+      if (is_one(view.swatch)) found.push_back(view.id);
     }
-    return found == ids ? "" : std::to_string(found.size()) + " swatches are framed, or others";
+    return found == ids ? "" : std::to_string(found.size()) + " swatches are such, or others";
   };
+}
+
+// Those that have a black frame.
+inline ScriptFrontEnd::Action ShowsFramed(const std::vector<int>& ids) {
+  return ShowsSuch(ids, [](const SwatchView& swatch) { return swatch.frame == 0u; });
+}
+
+// Those with this note.
+inline ScriptFrontEnd::Action ShowsNoted(const std::vector<int>& ids, const std::string& note) {
+  return ShowsSuch(ids, [note](const SwatchView& swatch) { return swatch.note == note; });
 }
 
 }  // namespace orreryui

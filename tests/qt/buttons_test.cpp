@@ -1,12 +1,15 @@
 #include <gmock/gmock.h>
 
 #include <QAccessible>
+#include <QApplication>
 #include <QCheckBox>
 #include <QGroupBox>
+#include <QHelpEvent>
 #include <QLabel>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTest>
+#include <QToolTip>
 
 #include "tests/qt/plugin.h"
 
@@ -145,6 +148,22 @@ TEST_F(Buttons, SwatchShowsColourAndFrame) {
     EXPECT_EQ(picture.pixelColor(0, 0), QColor(0, 0, 255));
     QTest::mouseClick(&swatch, Qt::LeftButton);
     EXPECT_THAT(session.Take(), ElementsAre("click 1"));
+    session.Change(1, [](ControlView& view) { view.swatch.note = "補間"; });
+    QHelpEvent asked(QEvent::ToolTip, {}, swatch.mapToGlobal(QPoint(2, 2)));
+    QApplication::sendEvent(&swatch, &asked);
+    EXPECT_EQ(QToolTip::text(), "赤255 緑0 青0\n補間");
+    EXPECT_EQ(said.text(QAccessible::Name), "海岸線 赤255 緑0 青0 補間");
+  });
+}
+
+TEST_F(Buttons, ASwatchThatOnlyShowsTakesNeitherTheFocusNorClicks) {
+  session.Add(ControlKind::kPushButton, 1, "OK");
+  session.Add(ControlKind::kSwatch, 2).shows_only = true;
+  session.Add(ControlKind::kPushButton, 3, "ｷｬﾝｾﾙ");
+  RunAt<QPushButton>(2, [&](QPushButton& swatch) {
+    QTest::mouseClick(&swatch, Qt::LeftButton);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    EXPECT_THAT(session.Take(), ElementsAre("focus 3"));
   });
 }
 

@@ -4,8 +4,10 @@
 #include <QInputMethodEvent>
 #include <QLineEdit>
 #include <QPlainTextEdit>
+#include <QScrollBar>
 #include <QTest>
 #include <QToolTip>
+#include <set>
 
 #include "tests/qt/plugin.h"
 
@@ -141,6 +143,66 @@ TEST_F(Edits, LinesStandAtTheSideAndHaveTheScrollBarThatTheControlNames) {
     EXPECT_GT(right.cursorRect().left(), middle);
     session.Change(1, [](ControlView& view) { view.right_aligned = false; });
     EXPECT_LT(right.cursorRect().left(), middle);
+  });
+}
+
+TEST_F(Edits, ABoxTooLowForTwoLinesHasThemInOneRowWithAMarkBetween) {
+  session.Add(kLines, 1, "", 15);
+  RunAt<QPlainTextEdit>(1, [&](QPlainTextEdit& edit) {
+    const auto cursor = [&] {
+      edit.grab();  // the row is where it was drawn
+      return edit.inputMethodQuery(Qt::ImCursorRectangle).toRectF();
+    };
+    const auto click = [&](qreal x) {
+      QTest::mouseClick(edit.viewport(), Qt::LeftButton, {}, QPoint(int(x), edit.height() / 2));
+      return edit.textCursor().position();
+    };
+    const QRectF start = cursor();
+    EXPECT_NEAR(start.center().y(), edit.rect().center().y(), 1);
+    QTest::keyClicks(&edit, "ab");
+    const QRectF line_end = cursor();
+    const QRect first_line(edit.rect().topLeft(), QSize(int(line_end.left()), edit.height()));
+    const QImage before = edit.grab(first_line).toImage();
+    QTest::keyClick(&edit, Qt::Key_Return);
+    EXPECT_EQ(edit.grab(first_line).toImage(), before);
+    const QRectF next_line = cursor();
+    EXPECT_GT(next_line.left(), line_end.left() + 4);
+    EXPECT_EQ(next_line.top(), start.top());
+    QTest::keyClicks(&edit, "cd");
+    EXPECT_EQ(session.Take().back(), "type 1 ab\r\ncd");
+    EXPECT_EQ(click(start.left()), 0);
+    EXPECT_EQ(click(next_line.left() + 1), 3);
+    EXPECT_EQ(click(edit.width() - 5), 5);
+
+    QTest::keyClicks(&edit, QString(100, 'x'));
+    EXPECT_GT(cursor().left(), edit.width() / 2);
+    EXPECT_LT(cursor().right(), edit.width());
+    QTest::keyClick(&edit, Qt::Key_Home, Qt::ControlModifier);
+    EXPECT_EQ(cursor(), start);
+    for (QScrollBar* bar : edit.findChildren<QScrollBar*>()) EXPECT_FALSE(bar->isVisible());
+  });
+}
+
+// The first column that has a dark pixel.
+int LeftOfText(QWidget& widget) {
+  const QImage picture = widget.grab().toImage();
+  for (int x = 0; x < picture.width(); ++x) {
+    for (int y = 0; y < picture.height(); ++y) {
+      if (picture.pixelColor(x, y).lightness() < 100) return x;
+    }
+  }
+  return -1;
+}
+
+TEST_F(Edits, TextBeginsAtOneEdgeInBoxesOfAllKinds) {
+  session.Add(ControlKind::kPushButton, 4);
+  session.Add(kLine, 1, "H");
+  session.Add(kLines, 2, "H", 15);
+  session.Add(kLines, 3, "H", 40);
+  Run([](QDialog& window) {
+    std::set<int> edges;
+    for (int id : {1, 2, 3}) edges.insert(LeftOfText(ControlWidget<QWidget>(window, id)));
+    EXPECT_EQ(edges.size(), 1u);
   });
 }
 

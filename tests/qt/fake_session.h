@@ -4,6 +4,7 @@
 #define ORRERYUI_TESTS_QT_FAKE_SESSION_H_
 
 #include <functional>
+#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -51,6 +52,7 @@ class FakeSession : public DialogSession {
   void Pick(int id, int row) override;
   void DoubleClick(int id, int row) override;
   void Scroll(int id, int line) override;
+  std::optional<TextRange> Find(int, const std::string&, int, bool) override { return {}; }
   void Enter() override { Record("enter"); }
   void Escape() override { Record("escape"); }
   void Paint() override;

@@ -3,6 +3,8 @@
 #include <gmock/gmock.h>
 
 #include <QApplication>
+#include <QClipboard>
+#include <QContextMenuEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -92,6 +94,15 @@ TEST_F(Fit, TextThatWouldTakeItsDialogBeyondTheScreenLosesItsMiddle) {
     EXPECT_TRUE(label.text().endsWith("終")) << "the last name of a path stays";
     EXPECT_EQ(label.toolTip().toStdString(), text);
     EXPECT_EQ(label.accessibleName().toStdString(), text);
+    const QString wrapped = QString("長").repeated(screen / 10);
+    session.Change(1, [&](ControlView& view) { view.text = wrapped.toStdString(); });
+    EXPECT_EQ(label.text().count('\n'), 1);
+    EXPECT_EQ(label.accessibleName(), wrapped);
+    QContextMenuEvent asked(QContextMenuEvent::Mouse, {1, 1}, label.mapToGlobal(QPoint(1, 1)));
+    QApplication::sendEvent(&ControlWidget<QLabel>(window, 1), &asked);
+    QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Down);
+    QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Return);
+    EXPECT_EQ(QGuiApplication::clipboard()->text(), wrapped);
   });
 }
 

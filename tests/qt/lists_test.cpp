@@ -123,6 +123,24 @@ TEST_F(Lists, ReportListHasColumns) {
   });
 }
 
+TEST_F(Lists, RowsHaveOneHeightWhateverTheirLetters) {
+  for (const ControlKind kind : {ControlKind::kListBox, ControlKind::kReportList,
+                                 ControlKind::kComboBox, ControlKind::kSimpleComboBox}) {
+    session = {};
+    AddList(kind).rows = {{"Latin"}, {"漢字"}, {"ｶﾅ"}, {""}};
+    Run([&](QDialog& window) {
+      if (kind == ControlKind::kComboBox) ControlWidget<QComboBox>(window, 1).showPopup();
+      const auto* const view = ControlWidget<QWidget>(window, 1).findChild<QAbstractItemView*>();
+      const auto& list = view != nullptr ? *view : ControlWidget<QAbstractItemView>(window, 1);
+      for (int row = 1; row < 4; ++row) {
+        EXPECT_EQ(list.visualRect(list.model()->index(row, 0)).height(),
+                  list.visualRect(list.model()->index(0, 0)).height())
+            << int(kind) << ' ' << row;
+      }
+    });
+  }
+}
+
 class Combos : public Lists {};
 
 TEST_F(Combos, ThePopupPicksAlsoTheSelectedRowAndFitsTheScreenAndTheModelChangesBothPartsApart) {

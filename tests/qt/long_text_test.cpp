@@ -3,12 +3,15 @@
 #include <orreryui/orreryui.h>
 
 #include <QApplication>
+#include <QLineEdit>
 #include <QPlainTextEdit>
+#include <QPushButton>
 #include <QScrollBar>
 #include <QTemporaryFile>
 #include <QTest>
 #include <QTextBlock>
 #include <QTimer>
+#include <QWheelEvent>
 #include <functional>
 
 namespace orreryui {
@@ -108,6 +111,75 @@ TEST_F(LongTextTest, ACarriageReturnInALineLeavesEveryLineInReach) {
     EXPECT_TRUE(edit_->textCursor().atEnd());
     Press(Qt::Key_Home, Qt::ControlModifier);
     EXPECT_EQ(TopLine(), 0);
+  });
+}
+
+TEST_F(LongTextTest, FindingGoesThroughTheWholeTextBothWaysAndLeavesTheKeysOfTheDialogAlone) {
+  Write(" line\r of two BLOCKS\r\n");
+  Visit([&] {
+    Settle();
+    Press(Qt::Key_F, Qt::ControlModifier);
+    auto* const line = qobject_cast<QLineEdit*>(QApplication::focusWidget());
+    ASSERT_NE(line, nullptr);
+    const auto place_after = [&](Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
+      QTest::keyClick(line, key, modifiers);
+      Settle();
+      EXPECT_EQ(edit_->textCursor().selectedText().toLower(), line->text().toLower());
+      EXPECT_TRUE(edit_->viewport()->rect().intersects(edit_->cursorRect()));
+      return NumberOf(edit_->textCursor().block().previous());
+    };
+    QTest::keyClicks(line, "two block");
+    EXPECT_EQ(place_after(Qt::Key_S), 0);
+    EXPECT_EQ(place_after(Qt::Key_Return), 1);
+    EXPECT_EQ(place_after(Qt::Key_Return, Qt::ShiftModifier), 0);
+    EXPECT_EQ(place_after(Qt::Key_Return, Qt::ShiftModifier), kLines - 1);
+    EXPECT_EQ(place_after(Qt::Key_F3), 0);
+    line->selectAll();
+    QTest::keyClicks(line, "\b70000 Lin");
+    place_after(Qt::Key_E);
+    EXPECT_EQ(CursorLine(), 70000);
+    const QTextCursor found = edit_->textCursor();
+    QTest::keyClicks(line, "nowhere");
+    EXPECT_EQ(edit_->textCursor(), found);
+    EXPECT_EQ(line->accessibleDescription(), QStringLiteral("見つかりません"));
+    QTest::keyClick(line, Qt::Key_Escape);
+    EXPECT_TRUE(edit_->hasFocus());
+    EXPECT_FALSE(line->isVisible());
+    EXPECT_TRUE(window_->isVisible());
+  });
+}
+
+TEST_F(LongTextTest, LettersZoomByKeysAndWheelAndTheTextTakesTheRoomOfItsWindow) {
+  Visit([&] {
+    const auto size = [this] { return edit_->fontMetrics().height(); };
+    const int normal = size();
+    Press(Qt::Key_Plus, Qt::ControlModifier);
+    Press(Qt::Key_Plus, Qt::ControlModifier);
+    const int large = size();
+    EXPECT_GT(large, normal);
+    QWheelEvent down(QPointF(9, 9), edit_->mapToGlobal(QPointF(9, 9)), {}, {0, -120}, {},
+                     Qt::ControlModifier, Qt::NoScrollPhase, false);
+    QApplication::sendEvent(edit_->viewport(), &down);
+    EXPECT_LT(size(), large);
+    Press(Qt::Key_0, Qt::ControlModifier);
+    EXPECT_EQ(size(), normal);
+
+    const QRect text = edit_->geometry();
+    const auto* const button = window_->findChild<QPushButton*>(QStringLiteral("1"));
+    const QRect at = button->geometry();
+    for (const QSize gained : {QSize(60, 90), QSize(-60, -90)}) {
+      window_->resize(window_->size() + gained);
+      const QPoint moved(gained.width(), gained.height());
+      const QPoint off = edit_->geometry().bottomRight() - text.bottomRight() - moved;
+      EXPECT_LE(off.manhattanLength(), 8);
+      EXPECT_EQ(edit_->geometry().topLeft(), text.topLeft());
+      EXPECT_LE((button->pos() - at.topLeft() - moved).manhattanLength(), 8);
+      EXPECT_NEAR(button->width(), at.width(), 1);
+      window_->resize(window_->size() - gained);
+    }
+    window_->resize(1, 1);
+    EXPECT_TRUE(window_->rect().contains(button->geometry()));
+    EXPECT_GT(edit_->height(), 2 * normal);
   });
 }
 

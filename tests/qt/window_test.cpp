@@ -7,6 +7,7 @@
 #include <QTest>
 #include <QTimer>
 #include <QWindow>
+#include <algorithm>
 #include <climits>
 #include <new>
 
@@ -129,7 +130,19 @@ TEST_F(Window, EndsWhenTheHostQuitsWhateverIsOpenAboveIt) {
   }
 }
 
-TEST_F(Window, WaitingTakesNoInputAndPaints) {
+// The lightness of the darkest pixel where the button is.
+int Darkest(const QWidget& button) {
+  const QImage picture = button.window()->grab(button.geometry()).toImage();
+  int darkest = 255;
+  for (int x = 0; x < picture.width(); ++x) {
+    for (int y = 0; y < picture.height(); ++y) {
+      darkest = std::min(darkest, picture.pixelColor(x, y).lightness());
+    }
+  }
+  return darkest;
+}
+
+TEST_F(Window, WaitingTakesNoInputAndPaintsInGrey) {
   class Painted : public QObject {
    public:
     int times = 0;
@@ -145,6 +158,7 @@ TEST_F(Window, WaitingTakesNoInputAndPaints) {
     Painted painted;
     ControlWidget<QLabel>(window, 3).installEventFilter(&painted);
     ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
+    const int clear = Darkest(ControlWidget<QPushButton>(window, 1));
     painted.times = 0;
     int asked = 0;
     LoadFrontEnd()->WaitUntil([&] {
@@ -154,10 +168,12 @@ TEST_F(Window, WaitingTakesNoInputAndPaints) {
         QTest::keyClick(&window, Qt::Key_Escape);
         EXPECT_FALSE(window.close());
         session.Change(3, [](ControlView& view) { view.text = "後"; });
+        EXPECT_GT(Darkest(ControlWidget<QPushButton>(window, 1)), clear + 60) << "greyed";
       }
       return asked > 2 && painted.times > 0;
     });
     EXPECT_THAT(session.Take(), ElementsAre());
+    EXPECT_EQ(Darkest(ControlWidget<QPushButton>(window, 1)), clear);
     QTest::keyClicks(&ControlWidget<QLineEdit>(window, 2), "b");
     EXPECT_EQ(session.At(2).text, "b");
   });
