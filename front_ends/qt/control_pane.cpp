@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <utility>
 
-#include "front_ends/qt/make_binder.h"
 #include "front_ends/qt/tab_binder.h"
 #include "front_ends/qt/widget_text.h"
 
@@ -45,13 +44,10 @@ void ControlPane::AddControl(int index) {
   shown.view = session_.Control(index);
   const ControlView& view = shown.view;
   const BinderPlace place{*this, this, index, view.id};
-  if (view.kind == ControlKind::kRadioButton && (view.starts_group || radio_group_ == nullptr)) {
-    radio_group_ = new QButtonGroup(this);
-  }
   if (view.kind == ControlKind::kTab) {
     shown.binder = std::make_unique<TabBinder>(place, frame_);
   } else {
-    shown.binder = MakeBinder(place, view.kind, radio_group_);
+    shown.binder = MakeBinder(place, view, button_groups_);
   }
   ControlBinder& binder = *shown.binder;
   if (view.id != kNoControlId) binder.widget()->setObjectName(QString::number(view.id));
@@ -66,6 +62,9 @@ void ControlPane::SetCaptions() {
   // A box is named by the fixed text before it; boxes that follow one another share that text.
   QString caption;
   for (const auto& [binder, view, arranged] : controls_) {
+    if (!view.description.empty()) {
+      binder->widget()->setAccessibleDescription(FromUtf8(view.description));
+    }
     if (view.kind == ControlKind::kStatic && !view.text.empty()) {
       caption = FromUtf8(view.text).simplified();
     } else if (TakesCaption(view.kind)) {
