@@ -121,6 +121,10 @@ void RadioButtonBinder::ShowState(const ControlView& view) {
   SetTabStop(*group, on != nullptr ? on : group->buttons().constFirst());
 }
 
+void RadioButtonBinder::SetCaption(const QString& caption) {
+  widget()->setAccessibleDescription(caption);
+}
+
 QSize RadioButtonBinder::Surroundings() const {
   return IndicatorRoom(*widget(), QStyle::PM_ExclusiveIndicatorWidth,
                        QStyle::PM_RadioButtonLabelSpacing);

@@ -51,6 +51,7 @@ class PushButtonBinder : public ButtonBinder {
 class RadioButtonBinder : public ButtonBinder {
  public:
   RadioButtonBinder(const BinderPlace& place, QButtonGroup* group);
+  void SetCaption(const QString& caption) override;
 
  protected:
   void ShowState(const ControlView& view) override;

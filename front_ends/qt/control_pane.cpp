@@ -14,6 +14,7 @@ constexpr double kGrowthStep = 1.02;
 bool TakesCaption(ControlKind kind) {
   switch (kind) {
     case ControlKind::kSwatch:
+    case ControlKind::kRadioButton:
     case ControlKind::kEdit:
     case ControlKind::kMultiLineEdit:
     case ControlKind::kComboBox:
@@ -25,6 +26,10 @@ bool TakesCaption(ControlKind kind) {
     default:
       return false;
   }
+}
+
+bool GivesCaption(ControlKind kind) {
+  return kind == ControlKind::kStatic || kind == ControlKind::kGroupBox;
 }
 
 }  // namespace
@@ -59,13 +64,14 @@ void ControlPane::AddControl(int index) {
 }
 
 void ControlPane::SetCaptions() {
-  // A box is named by the fixed text before it; boxes that follow one another share that text.
-  QString caption;
+  // A box is named by the fixed text or the frame before it, or else by the window's title; boxes
+  // that follow one another share that text.
+  QString caption = FromUtf8(session_.Layout().title).simplified();
   for (const auto& [binder, view, arranged] : controls_) {
     if (!view.description.empty()) {
       binder->widget()->setAccessibleDescription(FromUtf8(view.description));
     }
-    if (view.kind == ControlKind::kStatic && !view.text.empty()) {
+    if (GivesCaption(view.kind) && !view.text.empty()) {
       caption = FromUtf8(view.text).simplified();
     } else if (TakesCaption(view.kind)) {
       binder->SetCaption(caption);
