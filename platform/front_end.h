@@ -55,7 +55,8 @@ enum class ControlKind {
   kSwatch,       // a push button that shows a colour instead of its text
   kRadioButton,  // a run of radio buttons is one group; see ControlView::starts_group
   kCheckBox,
-  kPushLikeCheckBox,  // a check box that looks like a button which stays down
+  kPushLikeCheckBox,  // a check box that looks like a button which stays down; a run of them may be
+                      // a map, see ControlView::starts_group
   kEdit,              // one line
   kMultiLineEdit,     // Enter adds a line break; lines are joined by CR LF
   kStatic,            // plain text; a line feed in it breaks the line
@@ -109,15 +110,21 @@ struct ControlView {
   DialogRect place;
   bool visible = true;
   bool enabled = true;
-  bool shows_only = false;    // a swatch that takes neither clicks nor the focus
-  bool starts_group = false;  // the first radio button of a group
-  bool is_default = false;    // the push button that Enter presses
+  bool shows_only = false;  // a swatch that takes neither clicks nor the focus
+  // The first radio button of a group, or the first push-like check box of a map. The run of check
+  // boxes that begins here lies as the parts of the map do. It is one stop of the tab key; an arrow
+  // key goes to the neighbour on its side, and typing the beginning of a text or of a description
+  // goes to its button.
+  bool starts_group = false;
+  bool is_default = false;  // the push button that Enter presses
   bool right_aligned = false;
   bool tall_scroll_bar = false;  // a multi-line edit that always shows its vertical scroll bar
   bool grows = false;            // gets the room of a window that the user makes larger
   bool checked = false;
-  std::string text;  // label, edit text, or the edit field of a combo box
-  TextPart part;     // of a multi-line edit: what of its text is in `text`
+  std::string text;         // label, edit text, or the edit field of a combo box
+  std::string description;  // for a screen reader, beside the label: what that leaves open; of a
+                            // part of a map, how its name is read
+  TextPart part;            // of a multi-line edit: what of its text is in `text`
   std::vector<ReportColumn> columns;
   std::vector<std::vector<std::string>> rows;  // list kinds have one string a row
   int selection = -1;                          // selected row or tab, -1 for none

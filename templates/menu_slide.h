@@ -41,8 +41,8 @@ inline constexpr ControlTemplate kControls[] = {
     {ControlKind::kRadioButton, kManual, "手動"_sj, {74, 155, 50, 10}},
     {ControlKind::kStatic, kNoControlId, "間隔(秒)"_sj, {18, 173, 34, 8}},
     {ControlKind::kEdit, kInterval, "", {54, 170, 44, 14}},
-    {ControlKind::kPushButton, kLonger, "＋"_sj, {102, 169, 20, 16}},
-    {ControlKind::kPushButton, kShorter, "－"_sj, {124, 169, 20, 16}},
+    {ControlKind::kPushButton, kLonger, "＋"_sj, {102, 169, 20, 16}, kPlain, {}, "間隔を長く"_sj},
+    {ControlKind::kPushButton, kShorter, "－"_sj, {124, 169, 20, 16}, kPlain, {}, "間隔を短く"_sj},
     {ControlKind::kPushButton, IDOK, "OK", {26, 198, 58, 16}, kDefaultButton},
     {ControlKind::kPushButton, IDCANCEL, "ｷｬﾝｾﾙ"_sj, {92, 198, 58, 16}},
 };

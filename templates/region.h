@@ -18,13 +18,29 @@ inline constexpr int kLastPrefecture = 1531;
 inline constexpr int kSeveralNote = 1683;
 inline constexpr int kNote = 1684;
 
-inline constexpr const char* kPrefectures[] = {
-    "北海道"_sj, "青森"_sj, "岩手"_sj, "宮城"_sj, "秋田"_sj, "山形"_sj,   "福島"_sj, "茨城"_sj,
-    "栃木"_sj,   "群馬"_sj, "埼玉"_sj, "千葉"_sj, "東京"_sj, "神奈川"_sj, "新潟"_sj, "富山"_sj,
-    "石川"_sj,   "福井"_sj, "山梨"_sj, "長野"_sj, "岐阜"_sj, "静岡"_sj,   "愛知"_sj, "三重"_sj,
-    "滋賀"_sj,   "京都"_sj, "大阪"_sj, "兵庫"_sj, "奈良"_sj, "和歌山"_sj, "鳥取"_sj, "島根"_sj,
-    "岡山"_sj,   "広島"_sj, "山口"_sj, "徳島"_sj, "香川"_sj, "愛媛"_sj,   "高知"_sj, "福岡"_sj,
-    "佐賀"_sj,   "長崎"_sj, "熊本"_sj, "大分"_sj, "宮崎"_sj, "鹿児島"_sj, "沖縄"_sj};
+struct Prefecture {
+  const char* name;
+  const char* reading;
+};
+
+inline constexpr Prefecture kPrefectures[] = {
+    {"北海道"_sj, "ほっかいどう"_sj}, {"青森"_sj, "あおもり"_sj},   {"岩手"_sj, "いわて"_sj},
+    {"宮城"_sj, "みやぎ"_sj},         {"秋田"_sj, "あきた"_sj},     {"山形"_sj, "やまがた"_sj},
+    {"福島"_sj, "ふくしま"_sj},       {"茨城"_sj, "いばらき"_sj},   {"栃木"_sj, "とちぎ"_sj},
+    {"群馬"_sj, "ぐんま"_sj},         {"埼玉"_sj, "さいたま"_sj},   {"千葉"_sj, "ちば"_sj},
+    {"東京"_sj, "とうきょう"_sj},     {"神奈川"_sj, "かながわ"_sj}, {"新潟"_sj, "にいがた"_sj},
+    {"富山"_sj, "とやま"_sj},         {"石川"_sj, "いしかわ"_sj},   {"福井"_sj, "ふくい"_sj},
+    {"山梨"_sj, "やまなし"_sj},       {"長野"_sj, "ながの"_sj},     {"岐阜"_sj, "ぎふ"_sj},
+    {"静岡"_sj, "しずおか"_sj},       {"愛知"_sj, "あいち"_sj},     {"三重"_sj, "みえ"_sj},
+    {"滋賀"_sj, "しが"_sj},           {"京都"_sj, "きょうと"_sj},   {"大阪"_sj, "おおさか"_sj},
+    {"兵庫"_sj, "ひょうご"_sj},       {"奈良"_sj, "なら"_sj},       {"和歌山"_sj, "わかやま"_sj},
+    {"鳥取"_sj, "とっとり"_sj},       {"島根"_sj, "しまね"_sj},     {"岡山"_sj, "おかやま"_sj},
+    {"広島"_sj, "ひろしま"_sj},       {"山口"_sj, "やまぐち"_sj},   {"徳島"_sj, "とくしま"_sj},
+    {"香川"_sj, "かがわ"_sj},         {"愛媛"_sj, "えひめ"_sj},     {"高知"_sj, "こうち"_sj},
+    {"福岡"_sj, "ふくおか"_sj},       {"佐賀"_sj, "さが"_sj},       {"長崎"_sj, "ながさき"_sj},
+    {"熊本"_sj, "くまもと"_sj},       {"大分"_sj, "おおいた"_sj},   {"宮崎"_sj, "みやざき"_sj},
+    {"鹿児島"_sj, "かごしま"_sj},     {"沖縄"_sj, "おきなわ"_sj},
+};
 
 // The map: cells of two characters, the number of the prefecture that has the cell, or blanks for
 // the sea. The cells of a prefecture fill a rectangle, and rectangles share an edge where the
@@ -110,7 +126,9 @@ consteval auto MakeControls() {
   auto next = std::ranges::copy(kWholeControls, controls.begin()).out;
   for (std::size_t i = 0; i < std::size(kPrefectures); ++i) {
     *next++ = {ControlKind::kPushLikeCheckBox, kFirstPrefecture + static_cast<int>(i),
-               kPrefectures[i], kTiles[i + 1]};
+               kPrefectures[i].name,           kTiles[i + 1],
+               i == 0 ? kGroupStart : kPlain,  {},
+               kPrefectures[i].reading};
   }
   std::ranges::copy(kEndControls, next);
   return controls;

@@ -18,7 +18,7 @@ inline constexpr ControlTemplate kControls[] = {
     {ControlKind::kStatic, kCount, "", {164, 10, 40, 8}},
     {ControlKind::kStatic, kNoControlId, "登録済み一覧"_sj, {10, 10, 80, 8}},
     {ControlKind::kListBox, kMaps, "", {10, 21, 194, 110}},
-    {ControlKind::kEdit, kName, "", {10, 137, 194, 14}},
+    {ControlKind::kEdit, kName, "", {10, 137, 194, 14}, kPlain, {}, "新しい名称"_sj},
     {ControlKind::kPushButton, kRename, "名称変更"_sj, {68, 157, 64, 16}},
     {ControlKind::kPushButton, kDelete, "ｶｰｿﾙ行削除"_sj, {140, 157, 64, 16}},
     {ControlKind::kPushButton, IDOK, "OK", {68, 185, 64, 16}, kDefaultButton},

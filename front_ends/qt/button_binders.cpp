@@ -5,6 +5,7 @@
 #include <QRadioButton>
 #include <QStyle>
 
+#include "front_ends/qt/button_groups.h"
 #include "front_ends/qt/text_fit.h"
 #include "front_ends/qt/widget_text.h"
 
@@ -54,16 +55,6 @@ class RadioButton : public WholeButton<QRadioButton> {
   }
 };
 
-// The tab key goes to the button that is on, or to the first one.
-void SetTabStop(const QButtonGroup& group) {
-  const QList<QAbstractButton*> buttons = group.buttons();
-  const QAbstractButton* const stop =
-      group.checkedButton() != nullptr ? group.checkedButton() : buttons.front();
-  for (QAbstractButton* button : buttons) {
-    button->setFocusPolicy(button == stop ? Qt::StrongFocus : Qt::ClickFocus);
-  }
-}
-
 }  // namespace
 
 ButtonBinder::ButtonBinder(const BinderPlace& place, QAbstractButton* button)
@@ -98,13 +89,8 @@ void ButtonBinder::ShowLabel() {
   button_->setText(Literal(may_break ? BreakLines(label_, button_->font(), room.width()) : label_));
 }
 
-PushButtonBinder::PushButtonBinder(const BinderPlace& place, bool stays_down)
-    : ButtonBinder(place, new QPushButton(place.parent)),
-      push_button_(static_cast<QPushButton*>(widget())) {
-  // A button with the focus looks like the one that Enter presses, and so it is.
-  push_button_->setAutoDefault(!stays_down);
-  push_button_->setCheckable(stays_down);
-}
+PushButtonBinder::PushButtonBinder(const BinderPlace& place, QPushButton* button)
+    : ButtonBinder(place, button), push_button_(button) {}
 
 void PushButtonBinder::ShowState(const ControlView& view) {
   ButtonBinder::ShowState(view);
@@ -130,7 +116,13 @@ void RadioButtonBinder::ShowState(const ControlView& view) {
   group->setExclusive(false);
   ButtonBinder::ShowState(view);
   group->setExclusive(true);
-  SetTabStop(*group);
+  // The tab key goes to the button that is on, or to the first one.
+  const QAbstractButton* const on = group->checkedButton();
+  SetTabStop(*group, on != nullptr ? on : group->buttons().constFirst());
+}
+
+void RadioButtonBinder::SetCaption(const QString& caption) {
+  widget()->setAccessibleDescription(caption);
 }
 
 QSize RadioButtonBinder::Surroundings() const {

@@ -36,7 +36,8 @@ class ButtonBinder : public ControlBinder {
 
 class PushButtonBinder : public ButtonBinder {
  public:
-  PushButtonBinder(const BinderPlace& place, bool stays_down);
+  // The button belongs to its parent widget.
+  PushButtonBinder(const BinderPlace& place, QPushButton* button);
 
  protected:
   void ShowState(const ControlView& view) override;
@@ -50,6 +51,7 @@ class PushButtonBinder : public ButtonBinder {
 class RadioButtonBinder : public ButtonBinder {
  public:
   RadioButtonBinder(const BinderPlace& place, QButtonGroup* group);
+  void SetCaption(const QString& caption) override;
 
  protected:
   void ShowState(const ControlView& view) override;

@@ -1,77 +1,15 @@
 #include "front_ends/qt/combo_binders.h"
 
-#include <QAbstractItemView>
-#include <QCompleter>
-#include <QScrollBar>
 #include <QVBoxLayout>
-#include <QWheelEvent>
-#include <algorithm>
-#include <utility>
 
 #include "front_ends/qt/list_rows.h"
-#include "front_ends/qt/screen_room.h"
 #include "front_ends/qt/widget_text.h"
 
 namespace orreryui {
-namespace {
-
-// A combo box that takes the mouse wheel only while it has the focus, so that a list that the user
-// scrolls past it changes nothing in it.
-class DropDown : public QComboBox {
- public:
-  using QComboBox::QComboBox;
-
-  void showPopup() override {
-    if (!std::exchange(has_even_rows_, true)) KeepRowsEven(view());
-    WidenList();
-    QComboBox::showPopup();
-  }
-
- protected:
-  void wheelEvent(QWheelEvent* event) override {
-    if (hasFocus()) return QComboBox::wheelEvent(event);
-    event->ignore();
-  }
-
- private:
-  // The list is as wide as its rows, as far as the screen is. A row that is wider loses its middle.
-  void WidenList() {
-    const int frame = view()->verticalScrollBar()->sizeHint().width();
-    const int room = RoomFor(*window()).width();
-    view()->setMinimumWidth(std::min(view()->sizeHintForColumn(0) + frame, room));
-    view()->setTextElideMode(Qt::ElideMiddle);
-    for (int row = 0; row < count(); ++row) {
-      const int needed = view()->sizeHintForIndex(model()->index(row, 0)).width() + frame;
-      if (needed <= room) continue;
-      setItemData(row, itemText(row).toHtmlEscaped(), Qt::ToolTipRole);
-    }
-  }
-
-  bool has_even_rows_ = false;
-};
-
-// A combo box with an edit field, made ready before anything is bound to that field.
-QComboBox* MakeCombo(QWidget* parent) {
-  // A combo box gives its field a completer, at some cost, unless the field has one already.
-  static auto* const no_completer = new QCompleter;
-  auto* combo = new DropDown(parent);
-  auto* line = new LineField(combo);
-  line->setCompleter(no_completer);
-  combo->setLineEdit(line);
-  combo->setCompleter(nullptr);
-  combo->setInsertPolicy(QComboBox::NoInsert);
-  // The template says how wide a box is: its items needn't be measured.
-  combo->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-  combo->setFocusPolicy(Qt::StrongFocus);
-  // Leaving the box with the text of an item in it isn't a choice of that item.
-  QObject::disconnect(combo->lineEdit(), SIGNAL(editingFinished()), combo, nullptr);
-  return combo;
-}
-
-}  // namespace
-
 DropDownBinder::DropDownBinder(const BinderPlace& place)
-    : ControlBinder(place), combo_(MakeCombo(place.parent)), line_(combo_->lineEdit(), place.id) {
+    : ControlBinder(place),
+      combo_(new DropDown(place.parent)),
+      line_(combo_->lineEdit(), place.id) {
   QObject::connect(combo_, &QComboBox::activated, combo_, [this](int row) {
     Run([this, row](ControlSession& session) { session.Pick(id(), row); });
     combo_->lineEdit()->setCursorPosition(0);

@@ -2,9 +2,8 @@
 #ifndef ORRERYUI_FRONT_ENDS_QT_COMBO_BINDERS_H_
 #define ORRERYUI_FRONT_ENDS_QT_COMBO_BINDERS_H_
 
-#include <QComboBox>
-
 #include "front_ends/qt/control_binder.h"
+#include "front_ends/qt/drop_down.h"
 #include "front_ends/qt/edit_binders.h"
 #include "front_ends/qt/picking_view.h"
 
@@ -15,7 +14,7 @@ class DropDownBinder : public ControlBinder {
   explicit DropDownBinder(const BinderPlace& place);
   QWidget* widget() const override { return combo_; }
   QSize Needed(const ControlView& view, QSize offered) const override;
-  void SetCaption(const QString& caption) override { combo_->setAccessibleName(caption); }
+  void SetCaption(const QString& caption) override { combo_->SetCaption(caption); }
 
  protected:
   void ShowState(const ControlView& view) override;
@@ -23,7 +22,7 @@ class DropDownBinder : public ControlBinder {
  private:
   void ShowItems(const ControlView& view);
 
-  QComboBox* combo_;
+  DropDown* combo_;
   TypedLine line_;
 };
 

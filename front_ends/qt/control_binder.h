@@ -47,7 +47,8 @@ class ControlBinder {
   // The widget inside this control's that is to have the input focus; null if it isn't in there.
   virtual QWidget* InnerFocusWidget() const { return nullptr; }
 
-  // Names the control for a screen reader, by the text that stands before it.
+  // Tells a screen reader the text that stands before the control: the name of what has no label,
+  // what a radio button decides.
   virtual void SetCaption(const QString& caption);
 
   // Called when a gesture has run, whatever its control.

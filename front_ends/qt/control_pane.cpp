@@ -4,7 +4,6 @@
 #include <utility>
 
 #include "front_ends/qt/growth.h"
-#include "front_ends/qt/make_binder.h"
 #include "front_ends/qt/tab_binder.h"
 #include "front_ends/qt/widget_text.h"
 
@@ -16,6 +15,7 @@ constexpr double kGrowthStep = 1.02;
 bool TakesCaption(ControlKind kind) {
   switch (kind) {
     case ControlKind::kSwatch:
+    case ControlKind::kRadioButton:
     case ControlKind::kEdit:
     case ControlKind::kMultiLineEdit:
     case ControlKind::kComboBox:
@@ -27,6 +27,10 @@ bool TakesCaption(ControlKind kind) {
     default:
       return false;
   }
+}
+
+bool GivesCaption(ControlKind kind) {
+  return kind == ControlKind::kStatic || kind == ControlKind::kGroupBox;
 }
 
 }  // namespace
@@ -46,13 +50,10 @@ void ControlPane::AddControl(int index) {
   shown.view = session_.Control(index);
   const ControlView& view = shown.view;
   const BinderPlace place{*this, this, index, view.id};
-  if (view.kind == ControlKind::kRadioButton && (view.starts_group || radio_group_ == nullptr)) {
-    radio_group_ = new QButtonGroup(this);
-  }
   if (view.kind == ControlKind::kTab) {
     shown.binder = std::make_unique<TabBinder>(place, frame_);
   } else {
-    shown.binder = MakeBinder(place, view.kind, radio_group_);
+    shown.binder = MakeBinder(place, view, button_groups_);
   }
   ControlBinder& binder = *shown.binder;
   if (view.id != kNoControlId) binder.widget()->setObjectName(QString::number(view.id));
@@ -64,10 +65,14 @@ void ControlPane::AddControl(int index) {
 }
 
 void ControlPane::SetCaptions() {
-  // A box is named by the fixed text before it; boxes that follow one another share that text.
-  QString caption;
+  // A box is named by the fixed text or the frame before it, or else by the window's title; boxes
+  // that follow one another share that text.
+  QString caption = FromUtf8(session_.Layout().title).simplified();
   for (const auto& [binder, view, arranged] : controls_) {
-    if (view.kind == ControlKind::kStatic && !view.text.empty()) {
+    if (!view.description.empty()) {
+      binder->widget()->setAccessibleDescription(FromUtf8(view.description));
+    }
+    if (GivesCaption(view.kind) && !view.text.empty()) {
       caption = FromUtf8(view.text).simplified();
     } else if (TakesCaption(view.kind)) {
       binder->SetCaption(caption);

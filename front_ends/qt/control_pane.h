@@ -2,13 +2,13 @@
 #ifndef ORRERYUI_FRONT_ENDS_QT_CONTROL_PANE_H_
 #define ORRERYUI_FRONT_ENDS_QT_CONTROL_PANE_H_
 
-#include <QButtonGroup>
 #include <QWidget>
 #include <memory>
 #include <vector>
 
 #include "front_ends/qt/control_binder.h"
 #include "front_ends/qt/input_filter.h"
+#include "front_ends/qt/make_binder.h"
 #include "front_ends/qt/pane_frame.h"
 #include "platform/front_end.h"
 
@@ -69,10 +69,10 @@ class ControlPane : public QWidget, public DialogWindow, private GestureRunner {
   ControlSession& session_;
   PaneFrame& frame_;
   InputFilter filter_;
-  std::vector<Shown> controls_;          // by index
-  DialogScale scale_;                    // of the last arrangement,
-  QPoint gain_;                          // and what the window had gained then
-  QButtonGroup* radio_group_ = nullptr;  // the last one begun
+  std::vector<Shown> controls_;  // by index
+  DialogScale scale_;            // of the last arrangement,
+  QPoint gain_;                  // and what the window had gained then
+  ButtonGroups button_groups_;
 };
 
 }  // namespace orreryui

@@ -5,19 +5,39 @@
 #include "front_ends/qt/edit_binders.h"
 #include "front_ends/qt/list_binders.h"
 #include "front_ends/qt/static_binders.h"
+#include "front_ends/qt/stay_down_button.h"
 
 namespace orreryui {
+namespace {
 
-std::unique_ptr<ControlBinder> MakeBinder(const BinderPlace& place, ControlKind kind,
-                                          QButtonGroup* radio_group) {
-  switch (kind) {
+StayDownButton* MakeStayDown(QWidget* parent, bool starts_map, ButtonGroups& groups) {
+  auto* const button = new StayDownButton(parent);
+  if (starts_map) groups.map = new ButtonMap(parent);
+  if (groups.map != nullptr) groups.map->Add(button);
+  return button;
+}
+
+QButtonGroup* RadioGroup(QWidget* parent, bool starts, ButtonGroups& groups) {
+  if (starts || groups.radio == nullptr) groups.radio = new QButtonGroup(parent);
+  return groups.radio;
+}
+
+}  // namespace
+
+std::unique_ptr<ControlBinder> MakeBinder(const BinderPlace& place, const ControlView& view,
+                                          ButtonGroups& groups) {
+  if (view.kind != ControlKind::kPushLikeCheckBox) groups.map = nullptr;
+  switch (view.kind) {
     case ControlKind::kPushButton:
+      return std::make_unique<PushButtonBinder>(place, new QPushButton(place.parent));
     case ControlKind::kPushLikeCheckBox:
-      return std::make_unique<PushButtonBinder>(place, kind == ControlKind::kPushLikeCheckBox);
+      return std::make_unique<PushButtonBinder>(
+          place, MakeStayDown(place.parent, view.starts_group, groups));
     case ControlKind::kSwatch:
       return std::make_unique<SwatchBinder>(place);
     case ControlKind::kRadioButton:
-      return std::make_unique<RadioButtonBinder>(place, radio_group);
+      return std::make_unique<RadioButtonBinder>(
+          place, RadioGroup(place.parent, view.starts_group, groups));
     case ControlKind::kCheckBox:
       return std::make_unique<CheckBoxBinder>(place);
     case ControlKind::kEdit:

@@ -5,14 +5,21 @@
 #include <QButtonGroup>
 #include <memory>
 
+#include "front_ends/qt/button_groups.h"
 #include "front_ends/qt/control_binder.h"
 
 namespace orreryui {
 
-// The binder of a control that isn't a tab control. `radio_group` is the group that a radio button
-// joins.
-std::unique_ptr<ControlBinder> MakeBinder(const BinderPlace& place, ControlKind kind,
-                                          QButtonGroup* radio_group);
+// The groups that buttons join: the last ones begun in a pane, which they belong to. Null where
+// there is none.
+struct ButtonGroups {
+  QButtonGroup* radio = nullptr;
+  ButtonMap* map = nullptr;
+};
+
+// The binder of a control that isn't a tab control, and the group that it may begin.
+std::unique_ptr<ControlBinder> MakeBinder(const BinderPlace& place, const ControlView& view,
+                                          ButtonGroups& groups);
 
 }  // namespace orreryui
 

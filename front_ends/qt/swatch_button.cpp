@@ -51,11 +51,7 @@ std::uint32_t FromQColor(const QColor& color) {
 }
 
 SwatchButton::SwatchButton(QWidget* parent) : QPushButton(parent) {
-  static const bool kInstalled = [] {
-    QAccessible::installFactory(MakeAccessible);
-    return true;
-  }();
-  static_cast<void>(kInstalled);
+  QAccessible::installFactory(MakeAccessible);
   setAutoDefault(false);
 }
 

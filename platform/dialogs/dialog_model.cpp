@@ -21,6 +21,7 @@ Control MakeControl(const ControlTemplate& source) {
   control.visible = (source.flags & kHidden) == 0;
   control.enabled = (source.flags & kDisabled) == 0;
   control.SetText(source.text);
+  control.description = source.description;
   for (const char* item : source.items) control.rows.push_back({CString(item)});
   return control;
 }
@@ -165,6 +166,7 @@ ControlView ViewOf(const Control& control) {
   view.grows = (control.flags & kGrows) != 0;
   view.checked = control.checked;
   view.text = ToUtf8(control.ShownText());
+  view.description = ToUtf8(control.description);
   view.part = control.part.lines;
   for (std::size_t i = 0; i < control.column_titles.size(); ++i) {
     view.columns.push_back(

@@ -35,7 +35,8 @@ struct Control {
   bool enabled = true;
   bool checked = false;
   CString text;
-  ShownPart part;  // of a multi-line edit: what of its text is shown
+  const char* description = "";  // the template's
+  ShownPart part;                // of a multi-line edit: what of its text is shown
   std::vector<CString> column_titles;
   std::vector<int> column_widths;          // in pixels of a screen at scale 1
   std::vector<std::vector<CString>> rows;  // a row is its columns; list kinds have one

@@ -17,7 +17,7 @@ inline constexpr int IDCANCEL = 2;
 enum ControlFlags : unsigned {
   kPlain = 0,
   kDefaultButton = 1,  // Enter presses it
-  kGroupStart = 2,     // the first radio button of a group
+  kGroupStart = 2,     // the first radio button of a group, or push-like check box of a map
   kRightAligned = 4,
   kTallScrollBar = 8,  // a multi-line edit that always shows its vertical scroll bar
   kHidden = 16,
@@ -33,6 +33,7 @@ struct ControlTemplate {
   DialogRect place;
   unsigned flags = kPlain;
   std::span<const char* const> items = {};  // the fixed rows of a list or combo box
+  const char* description = "";             // see ControlView::description
 };
 
 struct DialogTemplate {

@@ -10,6 +10,8 @@
 #include <QRadioButton>
 #include <QTest>
 #include <QToolTip>
+#include <algorithm>
+#include <cmath>
 
 #include "tests/qt/plugin.h"
 
@@ -73,6 +75,30 @@ TEST_F(Buttons, CheckBoxesShowTheModelWhateverWasClicked) {
     QTest::mouseClick(&push_like, Qt::LeftButton);
     EXPECT_TRUE(push_like.isChecked());
     EXPECT_THAT(session.Take(), ElementsAre("click 1", "focus 2", "click 2"));
+  });
+}
+
+double Luminance(QWidget& button) {
+  const QColor seen = button.grab().toImage().pixelColor(10, button.height() / 2);
+  const auto linear = [](double part) { return std::pow((part + 0.055) / 1.055, 2.4); };
+  return 0.2126 * linear(seen.redF()) + 0.7152 * linear(seen.greenF()) +
+         0.0722 * linear(seen.blueF());
+}
+
+TEST_F(Buttons, WhatStaysDownStandsOutFromItsNeighboursInEveryPalette) {
+  for (const int id : {1, 2}) session.Add(ControlKind::kPushLikeCheckBox, id, "県");
+  session.At(2).checked = true;
+  QPalette dark(QColor(0x35, 0x35, 0x35));
+  dark.setColor(QPalette::Highlight, QColor(0x2A, 0x82, 0xDA));
+  QPalette poor;
+  poor.setColor(QPalette::Highlight, poor.color(QPalette::Button));
+  Run([&](QDialog& window) {
+    for (const QPalette& palette : {QPalette(), dark, poor}) {
+      window.setPalette(palette);
+      const double off = Luminance(ControlWidget<QPushButton>(window, 1));
+      const double on = Luminance(ControlWidget<QPushButton>(window, 2));
+      EXPECT_GE((std::max(off, on) + 0.05) / (std::min(off, on) + 0.05), 3);
+    }
   });
 }
 
