@@ -1,7 +1,6 @@
 #include "front_ends/qt/control_pane.h"
 
 #include <algorithm>
-#include <utility>
 
 #include "front_ends/qt/growth.h"
 #include "front_ends/qt/tab_binder.h"
@@ -112,7 +111,9 @@ const DialogRect* ControlPane::GrowingPlace() const {
 }
 
 void ControlPane::Arrange(const DialogScale& scale, QPoint gain) {
-  const bool anew = (std::exchange(scale_, scale) != scale) | (std::exchange(gain_, gain) != gain);
+  const bool anew = scale != scale_ || gain != gain_;
+  scale_ = scale;
+  gain_ = gain;
   for (auto& shown : controls_) {
     if (anew || !shown.arranged) ArrangeControl(shown);
     shown.arranged = true;
