@@ -119,6 +119,7 @@ struct ControlView {
   bool is_default = false;  // the push button that Enter presses
   bool right_aligned = false;
   bool tall_scroll_bar = false;  // a multi-line edit that always shows its vertical scroll bar
+  bool takes_file = false;       // an edit of one line onto which a file can be dropped
   bool grows = false;            // gets the room of a window that the user makes larger
   bool checked = false;
   std::string text;         // label, edit text, or the edit field of a combo box
@@ -192,6 +193,9 @@ class ControlSession {
   virtual void Click(int id) = 0;  // push buttons, radio buttons, check boxes
   // The box, or the part of its text that is shown, now reads `text`.
   virtual TypedText Type(int id, const std::string& text) = 0;
+  // A file has been dropped onto a box that takes one: its native path. The box then reads as if
+  // the file had been chosen.
+  virtual TypedText DropFile(int id, const std::string& path) = 0;
   virtual void Pick(int id, int row) = 0;  // a row of a list or combo box, or a tab
   // Selects the row if it isn't selected yet, then reports the double click.
   virtual void DoubleClick(int id, int row) = 0;

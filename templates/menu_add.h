@@ -16,7 +16,7 @@ inline constexpr ControlTemplate kControls[] = {
     {ControlKind::kStatic, kNoControlId, "ﾀｲﾄﾙ"_sj, {10, 13, 44, 8}},
     {ControlKind::kMultiLineEdit, kTitle, "", {56, 10, 170, 15}},
     {ControlKind::kStatic, kFileLabel, "ﾃｷｽﾄ ﾌｧｲﾙ"_sj, {10, 33, 44, 8}},
-    {ControlKind::kEdit, kFile, "", {56, 30, 170, 14}},
+    {ControlKind::kEdit, kFile, "", {56, 30, 170, 14}, kTakesFile},
     {ControlKind::kPushButton, kChooseFile, "ﾌｧｲﾙ"_sj, {232, 29, 44, 16}},
     {ControlKind::kStatic,
      kNoControlId,

@@ -1,12 +1,17 @@
 #include "front_ends/qt/edit_binders.h"
 
+#include <QDropEvent>
+#include <QFileInfo>
+#include <QMimeData>
 #include <QShortcut>
 #include <QSignalBlocker>
 #include <QTextDocument>
 #include <QTextOption>
+#include <QUrl>
 #include <utility>
 
 #include "front_ends/qt/refusal.h"
+#include "front_ends/qt/text_fit.h"
 #include "front_ends/qt/widget_text.h"
 
 namespace orreryui {
@@ -27,6 +32,14 @@ void Align(QTextDocument& document, Qt::Alignment alignment) {
   document.setDefaultTextOption(option);
 }
 
+// The path of the one file that is dropped, or the empty string.
+QString DroppedFile(const QDropEvent& event) {
+  const QList<QUrl> urls = event.mimeData()->urls();
+  if (urls.size() != 1 || !urls.front().isLocalFile()) return {};
+  const QString path = urls.front().toLocalFile();
+  return QFileInfo(path).isFile() ? path : QString();
+}
+
 // Whether the box is too low for two lines.
 bool IsOneRow(const ControlView& view) {
   constexpr int kUnitsOfLine = 8;
@@ -41,6 +54,23 @@ void LineField::focusInEvent(QFocusEvent* event) {
   if (hasSelectedText() && selectionLength() == length) setSelection(length, -length);
 }
 
+void LineField::dragEnterEvent(QDragEnterEvent* event) {
+  if (!on_file || !event->mimeData()->hasUrls()) return QLineEdit::dragEnterEvent(event);
+  event->setAccepted(!DroppedFile(*event).isEmpty());
+}
+
+void LineField::dragMoveEvent(QDragMoveEvent* event) {
+  if (!on_file || !event->mimeData()->hasUrls()) return QLineEdit::dragMoveEvent(event);
+  event->setAccepted(!DroppedFile(*event).isEmpty());
+}
+
+void LineField::dropEvent(QDropEvent* event) {
+  if (!on_file || !event->mimeData()->hasUrls()) return QLineEdit::dropEvent(event);
+  const QString path = DroppedFile(*event);
+  event->setAccepted(!path.isEmpty());
+  if (!path.isEmpty()) on_file(path);
+}
+
 TypedLine::TypedLine(QLineEdit* edit, int id) : edit_(edit), id_(id) {}
 
 void TypedLine::Show(const QString& text) {
@@ -50,9 +80,20 @@ void TypedLine::Show(const QString& text) {
 }
 
 void TypedLine::Report(const std::function<void(const GestureRunner::Gesture&)>& run) {
+  const std::string text = ToUtf8(edit_->text());
+  Run(run, [&](ControlSession& session) { return session.Type(id_, text); });
+}
+
+void TypedLine::Drop(const QString& path,
+                     const std::function<void(const GestureRunner::Gesture&)>& run) {
+  Run(run, [&](ControlSession& session) { return session.DropFile(id_, ToUtf8(path)); });
+}
+
+void TypedLine::Run(const std::function<void(const GestureRunner::Gesture&)>& run,
+                    const std::function<TypedText(ControlSession&)>& gesture) {
   TypedText typed{ToUtf8(edit_->text()), {}};
   typing_ = true;
-  run([&](ControlSession& session) { typed = session.Type(id_, typed.text); });
+  run([&](ControlSession& session) { typed = gesture(session); });
   typing_ = false;
 
   const QString text = FromUtf8(typed.text);
@@ -75,6 +116,10 @@ LineEditBinder::LineEditBinder(const BinderPlace& place)
 void LineEditBinder::ShowState(const ControlView& view) {
   edit_->setAlignment((view.right_aligned ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
   line_.Show(FromUtf8(view.text));
+  if (!view.takes_file || edit_->on_file) return;
+  edit_->on_file = [this](const QString& path) {
+    line_.Drop(path, [this](const GestureRunner::Gesture& gesture) { Run(gesture); });
+  };
 }
 
 QSize LineEditBinder::Needed(const ControlView&, QSize offered) const {
@@ -84,7 +129,6 @@ QSize LineEditBinder::Needed(const ControlView&, QSize offered) const {
 TextEditBinder::TextEditBinder(const BinderPlace& place)
     : ControlBinder(place), edit_(new RowEdit(place.parent)) {
   edit_->setTabChangesFocus(true);
-  edit_->setWordWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
   QObject::connect(edit_, &QPlainTextEdit::textChanged, edit_, [this] { Report(); });
   edit_->on_scroll = [this](int line) {
     Run([this, line](ControlSession& session) { session.Scroll(id(), line); });
@@ -103,6 +147,7 @@ void TextEditBinder::ShowState(const ControlView& view) {
   const QString text = FromLines(view.text);
   if (!typing_ && text != known_) {
     known_ = text;
+    if (!in_one_row) edit_->setWordWrapMode(WrapModeFor(text));
     edit_->setPlainText(text);
   }
   edit_->SetPart(view.part, in_one_row             ? Qt::ScrollBarAlwaysOff

@@ -11,12 +11,19 @@
 namespace orreryui {
 
 // A line edit that shows the beginning of a text that is too long for it, also when the tab key
-// selects it.
+// selects it. It may take files from a file manager.
 class LineField : public QLineEdit {
  public:
   using QLineEdit::QLineEdit;
 
+  // Called with the path of a file that is dropped; neither folders nor several files are. While
+  // this is empty none is taken.
+  std::function<void(const QString&)> on_file;
+
  protected:
+  void dragEnterEvent(QDragEnterEvent* event) override;
+  void dragMoveEvent(QDragMoveEvent* event) override;
+  void dropEvent(QDropEvent* event) override;
   void focusInEvent(QFocusEvent* event) override;
 };
 
@@ -33,7 +40,13 @@ class TypedLine {
   // To be called when the user has edited the line. `run` runs a gesture.
   void Report(const std::function<void(const GestureRunner::Gesture&)>& run);
 
+  // The same for a file that was dropped.
+  void Drop(const QString& path, const std::function<void(const GestureRunner::Gesture&)>& run);
+
  private:
+  void Run(const std::function<void(const GestureRunner::Gesture&)>& run,
+           const std::function<TypedText(ControlSession&)>& gesture);
+
   QLineEdit* edit_;
   int id_;
   bool typing_ = false;
@@ -50,7 +63,7 @@ class LineEditBinder : public ControlBinder {
   void ShowState(const ControlView& view) override;
 
  private:
-  QLineEdit* edit_;
+  LineField* edit_;
   TypedLine line_;
 };
 

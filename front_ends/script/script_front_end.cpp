@@ -105,6 +105,14 @@ ScriptFrontEnd& ScriptFrontEnd::Type(int id, const std::string& text, const std:
   });
 }
 
+ScriptFrontEnd& ScriptFrontEnd::DropFile(int id, const std::string& path,
+                                         const std::string& refused) {
+  return AddGesture("drop a file onto", id, [=](ControlSession& session) -> std::string {
+    const TypedText typed = session.DropFile(id, path);
+    return typed.refused == refused ? "" : "refuses \"" + typed.refused + "\"";
+  });
+}
+
 ScriptFrontEnd& ScriptFrontEnd::Pick(int id, int row) {
   return AddGesture("pick in", id, [id, row](ControlSession& session) -> std::string {
     const int rows = static_cast<int>(FindControl(session, id)->rows.size());

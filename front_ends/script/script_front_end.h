@@ -39,6 +39,7 @@ class ScriptFrontEnd : public FrontEnd {
   ScriptFrontEnd& Focus(int id);
   ScriptFrontEnd& Click(int id);
   ScriptFrontEnd& Type(int id, const std::string& text, const std::string& refused = "");
+  ScriptFrontEnd& DropFile(int id, const std::string& path, const std::string& refused = "");
   ScriptFrontEnd& Pick(int id, int row);
   ScriptFrontEnd& DoubleClick(int id, int row);
   ScriptFrontEnd& Enter();

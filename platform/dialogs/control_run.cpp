@@ -4,6 +4,7 @@
 
 #include "platform/dialogs/text_search.h"
 #include "platform/strings/code_page_932.h"
+#include "platform/system/path.h"
 
 namespace orreryui {
 namespace {
@@ -159,6 +160,16 @@ TypedText ControlRun::Type(int id, const std::string& text) {
     if (Target(id) >= 0) refused = TypeInto(index, text);
   });
   return {ToUtf8(Model().At(index).ShownText()), refused};
+}
+
+TypedText ControlRun::DropFile(int id, const std::string& path) {
+  const int index = Model().IndexOf(id);
+  if (index < 0 || (Model().At(index).flags & kTakesFile) == 0) return {};
+  const auto dropped = PathFromNative(path);
+  if (!dropped) return {ToUtf8(Model().At(index).ShownText()), RefusedInPath(path)};
+  CString text = dropped->c_str();
+  text.MakeLower();
+  return Type(id, ToUtf8(Bytes(text)));
 }
 
 // Returns the characters that were left out.

@@ -30,6 +30,7 @@ class ControlRun : public virtual ControlSession {
   void Focus(int id) override;
   void Click(int id) override;
   TypedText Type(int id, const std::string& text) override;
+  TypedText DropFile(int id, const std::string& path) override;
   void Pick(int id, int row) override;
   void DoubleClick(int id, int row) override;
   void Scroll(int id, int line) override;

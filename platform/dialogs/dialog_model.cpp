@@ -163,6 +163,7 @@ ControlView ViewOf(const Control& control) {
   view.is_default = (control.flags & kDefaultButton) != 0;
   view.right_aligned = (control.flags & kRightAligned) != 0;
   view.tall_scroll_bar = (control.flags & kTallScrollBar) != 0;
+  view.takes_file = (control.flags & kTakesFile) != 0;
   view.grows = (control.flags & kGrows) != 0;
   view.checked = control.checked;
   view.text = ToUtf8(control.ShownText());

@@ -22,8 +22,9 @@ enum ControlFlags : unsigned {
   kTallScrollBar = 8,  // a multi-line edit that always shows its vertical scroll bar
   kHidden = 16,
   kDisabled = 32,
-  kShowsOnly = 64,  // a swatch that takes neither clicks nor the focus
-  kGrows = 128,     // gets the room of a window that the user makes larger
+  kShowsOnly = 64,   // a swatch that takes neither clicks nor the focus
+  kGrows = 128,      // gets the room of a window that the user makes larger
+  kTakesFile = 256,  // an edit of one line onto which a file can be dropped
 };
 
 struct ControlTemplate {

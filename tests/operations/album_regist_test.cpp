@@ -93,7 +93,10 @@ TEST_F(AlbumRegistTest, ATextFileIsChosenInLowerCaseAndGivingUpEmptiesTheBox) {
   script.Type(101, "p").Type(106, "m").Type(108, "Typed.TXT").Click(109).Beeps();
   script.ChoosesFile("/Home/Ａ表/Notes.TXT").Shows(108, "\\home\\Ａ表\\notes.txt").Click(117);
   script.Type(106, "m").Type(108, "Typed.TXT").Click(109).Beeps().ChoosesFile(std::nullopt);
-  script.Shows(108, "").Click(117).Shows(1045, "2").Click(1);
+  script.Shows(108, "").Click(117).Shows(1045, "2");
+  script.DropFile(108, "/Home/Ａ表.TXT").Shows(108, "\\home\\Ａ表.txt");
+  script.DropFile(108, "/home/é|.txt", "|").Shows(108, "\\home\\Ａ表.txt");
+  script.DropFile(101, "/home/a.txt").Shows(101, "p").Click(1);
   Call(script);
   EXPECT_EQ(folder.Read(kAlbum), std::string("m 35.0 135.0  \\home\\Ａ表\\notes.txt\r\n"_sj));
   const FileChooserRequest& request = script.LastFileRequest();

@@ -1,12 +1,18 @@
 #include <gmock/gmock.h>
 
 #include <QApplication>
+#include <QDir>
+#include <QDropEvent>
 #include <QInputMethodEvent>
 #include <QLineEdit>
+#include <QMimeData>
 #include <QPlainTextEdit>
 #include <QScrollBar>
+#include <QTemporaryFile>
 #include <QTest>
 #include <QToolTip>
+#include <QUrl>
+#include <ctime>
 #include <set>
 
 #include "tests/qt/plugin.h"
@@ -105,6 +111,46 @@ TEST_F(Edits, EnterBreaksTheLineAtTheCursorWhateverKeysAreHeld) {
       EXPECT_EQ(edit.toPlainText(), "一\n二三\n4");
     });
   }
+}
+
+TEST_F(Edits, AFileDroppedOntoABoxForOneIsReportedAndShownAsTheModelHasIt) {
+  session.Add(kLine, 1, "a").takes_file = true;
+  session.Add(kLine, 2, "b");
+  session.refused_characters = "z";
+  QTemporaryFile file(QDir::tempPath() + "/図zXXXXXX");
+  ASSERT_TRUE(file.open());
+  Run([&](QDialog& window) {
+    const auto drop = [&](int id, const QList<QUrl>& urls) {
+      QMimeData data;
+      data.setUrls(urls);
+      auto& box = ControlWidget<QLineEdit>(window, id);
+      QDragEnterEvent enter({2, 2}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+      QApplication::sendEvent(&box, &enter);
+      QDropEvent dropped({2, 2}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+      if (enter.isAccepted()) QApplication::sendEvent(&box, &dropped);
+      return box.text();
+    };
+    const QUrl url = QUrl::fromLocalFile(file.fileName());
+    const QString expected = "at " + file.fileName().remove('z');
+    EXPECT_EQ(drop(1, {url}), expected);
+    EXPECT_THAT(session.Take(), ElementsAre("type 1 " + expected.toStdString()));
+    EXPECT_TRUE(QToolTip::text().contains('z')) << "it says what it left out";
+    EXPECT_EQ(drop(2, {url}), "b") << "a box for a text takes no file";
+    for (const QList<QUrl>& others : {QList<QUrl>{url, url}, {QUrl::fromLocalFile("/")}}) {
+      EXPECT_EQ(drop(1, others), expected);
+    }
+  });
+}
+
+TEST_F(Edits, ATextWithoutABreakTakesNoLongerThanItsLength) {
+  const std::string text(300'000, 'a');
+  const int heights[] = {14, 14, 60};
+  const ControlKind kinds[] = {ControlKind::kStatic, kLines, kLines};
+  for (int i = 0; i < 3; ++i) session.Add(kinds[i], i + 1, text, heights[i]);
+  const std::clock_t start = std::clock();
+  Run([&](QDialog& window) { window.grab(); });
+  EXPECT_LT(std::clock() - start, 20 * CLOCKS_PER_SEC)
+      << "going through it for each line takes minutes";
 }
 
 TEST_F(Edits, ALongTextShowsItsBeginning) {

@@ -49,6 +49,7 @@ class FakeSession : public DialogSession {
   void Focus(int id) override;
   void Click(int id) override;
   TypedText Type(int id, const std::string& text) override;
+  TypedText DropFile(int id, const std::string& path) override { return Type(id, "at " + path); }
   void Pick(int id, int row) override;
   void DoubleClick(int id, int row) override;
   void Scroll(int id, int line) override;
