@@ -39,7 +39,9 @@ ControlPane::ControlPane(ControlSession& session, PaneFrame& frame, QWidget* par
 
 void ControlPane::Build() {
   frame_.Quietly([this] {
-    for (int index = 0; index < session_.ControlCount(); ++index) AddControl(index);
+    const int count = session_.ControlCount();
+    controls_.reserve(std::size_t(count));
+    for (int index = 0; index < count; ++index) AddControl(index);
     SetCaptions();
   });
 }

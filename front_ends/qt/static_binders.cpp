@@ -43,23 +43,23 @@ StaticBinder::StaticBinder(const BinderPlace& place)
 void StaticBinder::ShowState(const ControlView& view) {
   const auto alignment = (view.right_aligned ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter;
   if (label_->alignment() != alignment) label_->setAlignment(alignment);
+  text_ = Lines(view);
 }
 
-QSize StaticBinder::Needed(const ControlView& view, QSize offered) const {
-  return NeededSize(Lines(view), label_->font(), offered);
+QSize StaticBinder::Needed(const ControlView&, QSize offered) const {
+  return NeededSize(text_, label_->font(), offered);
 }
 
 void StaticBinder::Arrange(const ControlView& view, const DialogScale& scale) {
   ControlBinder::Arrange(view, scale);
-  const QString text = Lines(view);
   const QFont font = label_->font();
-  const bool fits = NeededSize(text, font, label_->size()) == label_->size();
+  const bool fits = NeededSize(text_, font, label_->size()) == label_->size();
   // The label would break at blanks alone, which a path doesn't have.
   const QString shown =
-      fits ? BreakLines(text, font, label_->width()) : Shortened(text, font, label_->size());
+      fits ? BreakLines(text_, font, label_->width()) : Shortened(text_, font, label_->size());
   if (label_->text() != shown) label_->setText(shown);
-  label_->SetWhole(text);
-  const QString tip = fits ? QString() : CutDown(text).toHtmlEscaped();
+  label_->SetWhole(text_);
+  const QString tip = fits ? QString() : CutDown(text_).toHtmlEscaped();
   if (label_->toolTip() != tip) label_->setToolTip(tip);
 }
 

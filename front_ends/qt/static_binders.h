@@ -39,6 +39,7 @@ class StaticBinder : public ControlBinder {
 
  private:
   TextLabel* label_;
+  QString text_;  // all that the label is to show
 };
 
 class GroupBoxBinder : public ControlBinder {

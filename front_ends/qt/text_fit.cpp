@@ -126,6 +126,8 @@ int LetterHeight(const QFont& font) {
 QSize NeededSize(const QString& text, const QFont& font, QSize offered) {
   if (text.isEmpty()) return offered;
   if (text.size() > kMostShown) return {offered.width() + 1, offered.height()};
+  const QSize whole = TextSize(text, font);
+  if (whole.boundedTo(offered) == whole) return offered;
   const QSize plain = LettersSize(text, font);
   if (plain.width() <= offered.width()) return offered.expandedTo({0, plain.height()});
   const bool room_for_more = offered.height() >= plain.height() + LineHeight(font);
